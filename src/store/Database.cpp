@@ -1,0 +1,218 @@
+// SPDX-License-Identifier: MIT
+#include "Database.h"
+
+#include "JetSql.h"
+#include "VbError.h"
+
+#include <QFileInfo>
+#include <QHash>
+#include <sqlite3.h>
+
+struct Database::TableInfo {
+    bool exists = false;
+    QString key;                        // INTEGER PRIMARY KEY column, "" when the table uses its rowid
+    QStringList columns;
+    QHash<QString, QString> types;      // lower-case column name -> declared type
+};
+
+struct Database::Cache {
+    QHash<QString, TableInfo> tables;   // lower-case table name -> info
+};
+
+namespace {
+
+QString sqliteMessage(sqlite3 *db) { return QString::fromUtf8(sqlite3_errmsg(db)); }
+
+//! Maps a SQLite failure to the number the legacy engine gave for the same fault.
+int legacyNumber(int code, const QString &message)
+{
+    const int primary = code & 0xff;
+    if (primary == SQLITE_CONSTRAINT) {
+        if (message.contains(QLatin1String("UNIQUE")) || message.contains(QLatin1String("PRIMARY KEY")))
+            return VbErr::DuplicateKey;
+        return VbErr::GenericDbError;
+    }
+    if (primary == SQLITE_NOTADB || primary == SQLITE_CORRUPT)
+        return VbErr::NotDatabaseFormat;
+    if (primary == SQLITE_CANTOPEN)
+        return VbErr::CannotOpenDatabase;
+    if (primary == SQLITE_READONLY)
+        return VbErr::ReadOnly;
+    if (message.startsWith(QLatin1String("no such table")))
+        return VbErr::InputTableNotFound;
+    if (message.startsWith(QLatin1String("no such column")))
+        return VbErr::TooFewParameters;   // Jet reads an unknown name as a missing parameter
+    if (message.contains(QLatin1String("syntax error")) || message.startsWith(QLatin1String("unrecognized token"))
+        || message.contains(QLatin1String("incomplete input")))
+        return VbErr::SyntaxError;
+    return VbErr::GenericDbError;
+}
+
+}  // namespace
+
+Database::Database(QString path, sqlite3 *db) : m_path(std::move(path)), m_db(db), m_cache(std::make_unique<Cache>()) {}
+
+Database::~Database()
+{
+    if (m_db)
+        sqlite3_close_v2(m_db);
+}
+
+std::shared_ptr<Database> Database::open(const QString &path)
+{
+    if (!QFileInfo(path).isFile())
+        throw VbError(VbErr::CouldNotFindFile, QStringLiteral("Could not find file '%1'.").arg(path));
+    sqlite3 *db = nullptr;
+    const int rc = sqlite3_open_v2(path.toUtf8().constData(), &db, SQLITE_OPEN_READWRITE, nullptr);
+    if (rc != SQLITE_OK) {
+        const QString msg = db ? sqliteMessage(db) : QStringLiteral("out of memory");
+        sqlite3_close_v2(db);
+        throw VbError(legacyNumber(rc, msg), QStringLiteral("Cannot open database '%1'. %2").arg(path, msg));
+    }
+    std::shared_ptr<Database> result(new Database(path, db));
+    // A file that is not a database only shows itself on the first read.
+    char *err = nullptr;
+    if (sqlite3_exec(db, "SELECT count(*) FROM sqlite_master", nullptr, nullptr, &err) != SQLITE_OK) {
+        const QString msg = QString::fromUtf8(err ? err : "");
+        sqlite3_free(err);
+        throw VbError(VbErr::NotDatabaseFormat,
+                      QStringLiteral("Unrecognized database format '%1'. %2").arg(path, msg));
+    }
+    sqlite3_busy_timeout(db, 5000);
+    return result;
+}
+
+std::shared_ptr<Database> Database::create(const QString &path)
+{
+    sqlite3 *db = nullptr;
+    const int rc = sqlite3_open_v2(path.toUtf8().constData(), &db, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr);
+    if (rc != SQLITE_OK) {
+        const QString msg = db ? sqliteMessage(db) : QStringLiteral("out of memory");
+        sqlite3_close_v2(db);
+        throw VbError(legacyNumber(rc, msg), QStringLiteral("Cannot create database '%1'. %2").arg(path, msg));
+    }
+    return std::shared_ptr<Database>(new Database(path, db));
+}
+
+void Database::raiseLastError(const QString &context) const
+{
+    const QString msg = sqliteMessage(m_db);
+    const int number = legacyNumber(sqlite3_extended_errcode(m_db), msg);
+    QString text = msg;
+    if (number == VbErr::SyntaxError)
+        text = QStringLiteral("Syntax error in query expression '%1'. (%2)").arg(context, msg);
+    else if (number == VbErr::DuplicateKey)
+        text = QStringLiteral("The changes you requested to the table were not successful because they would "
+                              "create duplicate values in the index, primary key, or relationship. (%1)").arg(msg);
+    else if (number == VbErr::InputTableNotFound)
+        text = QStringLiteral("The Microsoft Jet database engine cannot find the input table or query. (%1)").arg(msg);
+    else if (number == VbErr::TooFewParameters)
+        text = QStringLiteral("Too few parameters. (%1)").arg(msg);
+    else if (!context.isEmpty())
+        text = QStringLiteral("%1 [%2]").arg(msg, context);
+    throw VbError(number, text);
+}
+
+void Database::executeNative(const QString &sqliteSql)
+{
+    char *err = nullptr;
+    if (sqlite3_exec(m_db, sqliteSql.toUtf8().constData(), nullptr, nullptr, &err) != SQLITE_OK) {
+        sqlite3_free(err);
+        raiseLastError(sqliteSql);
+    }
+}
+
+int Database::Execute(const QString &jetSql, bool failOnError)
+{
+    const QString sql = translateJetSql(jetSql);
+    const QByteArray utf8 = sql.toUtf8();
+    // Without failOnError DAO still raises on a statement it cannot run at all; what it forgives is
+    // a row that violates a rule, which SQLite's OR IGNORE conflict clause reproduces row by row.
+    QByteArray text = utf8;
+    if (!failOnError) {
+        const QByteArray head = utf8.trimmed().left(7).toUpper();
+        if (head.startsWith("INSERT ") )
+            text = "INSERT OR IGNORE " + utf8.trimmed().mid(7);
+        else if (head.startsWith("UPDATE "))
+            text = "UPDATE OR IGNORE " + utf8.trimmed().mid(7);
+    }
+    char *err = nullptr;
+    if (sqlite3_exec(m_db, text.constData(), nullptr, nullptr, &err) != SQLITE_OK) {
+        sqlite3_free(err);
+        raiseLastError(jetSql);
+    }
+    m_recordsAffected = sqlite3_changes(m_db);
+    return m_recordsAffected;
+}
+
+std::unique_ptr<Recordset> Database::OpenRecordset(const QString &source, RecordsetType type)
+{
+    const QString trimmed = source.trimmed();
+    QString sql;
+    // A bare table name opens the whole table, as DAO does.
+    const bool isName = !trimmed.isEmpty() && !trimmed.contains(QLatin1Char(' ')) && !trimmed.contains(QLatin1Char('('));
+    if (isName) {
+        QString name = trimmed;
+        if (name.startsWith(QLatin1Char('[')) && name.endsWith(QLatin1Char(']')))
+            name = name.mid(1, name.size() - 2);
+        if (!hasTable(name))
+            throw VbError(VbErr::InputTableNotFound,
+                          QStringLiteral("The Microsoft Jet database engine cannot find the input table or query '%1'.").arg(name));
+        sql = QStringLiteral("SELECT * FROM \"%1\"").arg(name);
+    } else {
+        sql = translateJetSql(trimmed);
+    }
+    std::unique_ptr<Recordset> rs(new Recordset(this, source, sql, type));
+    rs->load();
+    return rs;
+}
+
+const Database::TableInfo *Database::tableInfo(const QString &table)
+{
+    const QString lower = table.toLower();
+    auto it = m_cache->tables.constFind(lower);
+    if (it != m_cache->tables.constEnd())
+        return &it.value();
+    TableInfo info;
+    sqlite3_stmt *stmt = nullptr;
+    const QByteArray sql = QStringLiteral("PRAGMA table_info(\"%1\")").arg(table).toUtf8();
+    if (sqlite3_prepare_v2(m_db, sql.constData(), -1, &stmt, nullptr) == SQLITE_OK) {
+        int keyCount = 0;
+        QString keyName;
+        QString keyType;
+        while (sqlite3_step(stmt) == SQLITE_ROW) {
+            info.exists = true;
+            const QString name = QString::fromUtf8(reinterpret_cast<const char *>(sqlite3_column_text(stmt, 1)));
+            const QString type = QString::fromUtf8(reinterpret_cast<const char *>(sqlite3_column_text(stmt, 2)));
+            info.columns << name;
+            info.types.insert(name.toLower(), type.toUpper());
+            if (sqlite3_column_int(stmt, 5) > 0) {
+                ++keyCount;
+                keyName = name;
+                keyType = type.toUpper();
+            }
+        }
+        // Only an INTEGER PRIMARY KEY is the rowid itself; anything else is reached through the rowid.
+        if (keyCount == 1 && keyType == QLatin1String("INTEGER"))
+            info.key = keyName;
+    }
+    sqlite3_finalize(stmt);
+    if (!info.exists) {
+        // A view has columns too, but is not a table that can take a key.
+        return &*m_cache->tables.insert(lower, info);
+    }
+    return &*m_cache->tables.insert(lower, info);
+}
+
+QString Database::primaryKeyOf(const QString &table) { return tableInfo(table)->key; }
+
+bool Database::hasTable(const QString &table) { return tableInfo(table)->exists; }
+
+QString Database::columnType(const QString &table, const QString &column)
+{
+    return tableInfo(table)->types.value(column.toLower());
+}
+
+QStringList Database::columnsOf(const QString &table) { return tableInfo(table)->columns; }
+
+void Database::clearSchemaCache() { m_cache->tables.clear(); }

@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Recordset.h"
+#include <QString>
+#include <QVariant>
+#include <memory>
+
+struct sqlite3;
+
+//! The one open database of the program, with DAO's operations: OpenRecordset and Execute.
+//! Every statement is Jet SQL and passes through translateJetSql. Errors throw VbError with the
+//! legacy numbers (3022 duplicate key, 3075 syntax error, 3078 unknown table, 3024 missing file...).
+class Database {
+public:
+    //! Opens an existing database file. A missing file throws 3024, a file that is not a database 3343.
+    static std::shared_ptr<Database> open(const QString &path);
+    //! Creates (or opens) a database file, for the seed builder and tests.
+    static std::shared_ptr<Database> create(const QString &path);
+
+    ~Database();
+    Database(const Database &) = delete;
+    Database &operator=(const Database &) = delete;
+
+    const QString &path() const { return m_path; }
+
+    //! Opens a recordset on a table name or a Jet SELECT statement.
+    std::unique_ptr<Recordset> OpenRecordset(const QString &source, RecordsetType type = RecordsetType::Dynaset);
+
+    //! Runs an action statement. With failOnError (dbFailOnError) any error throws; without it, as in
+    //! DAO, a statement that is syntactically wrong still throws, but constraint failures on single rows
+    //! are skipped. Returns the number of rows affected.
+    int Execute(const QString &jetSql, bool failOnError = true);
+
+    //! Runs a SQLite statement as it stands, without translation (schema, pragmas).
+    void executeNative(const QString &sqliteSql);
+
+    //! Rows affected by the last Execute.
+    int RecordsAffected() const { return m_recordsAffected; }
+
+    //! The primary-key column of a table ("" for none), and whether the table exists. Cached.
+    QString primaryKeyOf(const QString &table);
+    bool hasTable(const QString &table);
+    //! Declared type of a column ("" when unknown); numeric columns convert text on assignment.
+    QString columnType(const QString &table, const QString &column);
+    //! Column names of a table in their order.
+    QStringList columnsOf(const QString &table);
+    //! Forgets cached table information after DDL.
+    void clearSchemaCache();
+
+    sqlite3 *handle() const { return m_db; }
+
+    //! Raises the VbError matching SQLite's last error on this connection.
+    [[noreturn]] void raiseLastError(const QString &context = {}) const;
+
+private:
+    explicit Database(QString path, sqlite3 *db);
+    struct TableInfo;
+    const TableInfo *tableInfo(const QString &table);
+
+    QString m_path;
+    sqlite3 *m_db = nullptr;
+    int m_recordsAffected = 0;
+    struct Cache;
+    std::unique_ptr<Cache> m_cache;
+};

@@ -1,0 +1,677 @@
+// SPDX-License-Identifier: MIT
+#include "Recordset.h"
+
+#include "Database.h"
+#include "JetSql.h"
+#include "VbError.h"
+
+#include <QDateTime>
+#include <charconv>
+#include <cmath>
+#include <cstdlib>
+#include <string>
+#include <sqlite3.h>
+
+namespace {
+
+const QString kRowIdAlias = QStringLiteral("__zob_rowid");
+const QString kDateFormat = QStringLiteral("yyyy-MM-dd HH:mm:ss");
+
+enum class ColumnKind { Text, Integer, Real, Boolean, Date, Other };
+
+ColumnKind kindOf(const QString &declType)
+{
+    const QString t = declType.toUpper();
+    if (t.startsWith(QLatin1String("BOOL")) || t == QLatin1String("YESNO"))
+        return ColumnKind::Boolean;
+    if (t.startsWith(QLatin1String("DATE")) || t.startsWith(QLatin1String("TIME")))
+        return ColumnKind::Date;
+    if (t.contains(QLatin1String("INT")))
+        return ColumnKind::Integer;
+    if (t.contains(QLatin1String("REAL")) || t.contains(QLatin1String("FLOA")) || t.contains(QLatin1String("DOUB"))
+        || t.contains(QLatin1String("NUM")) || t.contains(QLatin1String("DEC")) || t.contains(QLatin1String("SINGLE")))
+        return ColumnKind::Real;
+    if (t.contains(QLatin1String("CHAR")) || t.contains(QLatin1String("TEXT")) || t.contains(QLatin1String("CLOB"))
+        || t.contains(QLatin1String("MEMO")))
+        return ColumnKind::Text;
+    return ColumnKind::Other;
+}
+
+QVariant readValue(sqlite3_stmt *stmt, int col, ColumnKind kind)
+{
+    switch (sqlite3_column_type(stmt, col)) {
+    case SQLITE_NULL:
+        return {};
+    case SQLITE_INTEGER: {
+        const qint64 v = sqlite3_column_int64(stmt, col);
+        if (kind == ColumnKind::Boolean)
+            return QVariant(v != 0);
+        if (v >= INT32_MIN && v <= INT32_MAX)
+            return QVariant(static_cast<int>(v));
+        return QVariant(static_cast<qlonglong>(v));
+    }
+    case SQLITE_FLOAT:
+        return QVariant(sqlite3_column_double(stmt, col));
+    default: {
+        const QString text = QString::fromUtf8(reinterpret_cast<const char *>(sqlite3_column_text(stmt, col)),
+                                               sqlite3_column_bytes(stmt, col));
+        if (kind == ColumnKind::Date) {
+            QDateTime dt = QDateTime::fromString(text, kDateFormat);
+            if (!dt.isValid())
+                dt = QDateTime::fromString(text, Qt::ISODate);
+            if (dt.isValid())
+                return dt;
+        }
+        return text;
+    }
+    }
+}
+
+//! Reads numeric text the way the engine converts it into a number column: blanks around it and
+//! thousands separators are allowed; anything else is a conversion error.
+bool parseNumericText(const QString &text, double &out)
+{
+    QString s = text.trimmed();
+    s.remove(QLatin1Char(','));
+    if (s.isEmpty())
+        return false;
+    bool ok = false;
+    out = s.toDouble(&ok);
+    if (!ok && s.startsWith(QLatin1Char('.')))
+        out = (QLatin1Char('0') + s).toDouble(&ok);
+    return ok && std::isfinite(out);
+}
+
+void bindValue(sqlite3_stmt *stmt, int index, const QVariant &value)
+{
+    if (!value.isValid() || value.isNull()) {
+        sqlite3_bind_null(stmt, index);
+        return;
+    }
+    switch (value.typeId()) {
+    case QMetaType::Bool:
+        sqlite3_bind_int(stmt, index, value.toBool() ? 1 : 0);
+        break;
+    case QMetaType::Int: case QMetaType::UInt: case QMetaType::Short: case QMetaType::UShort:
+    case QMetaType::LongLong: case QMetaType::ULongLong: case QMetaType::Long: case QMetaType::ULong:
+        sqlite3_bind_int64(stmt, index, value.toLongLong());
+        break;
+    case QMetaType::Float: {
+        // A single is stored as the double of its shortest decimal text (0.1f as 0.1), as the engine
+        // converts a Single into a Double column.
+        char buf[32];
+        const auto res = std::to_chars(buf, buf + sizeof buf, value.toFloat());
+        sqlite3_bind_double(stmt, index, std::strtod(std::string(buf, res.ptr).c_str(), nullptr));
+        break;
+    }
+    case QMetaType::Double:
+        sqlite3_bind_double(stmt, index, value.toDouble());
+        break;
+    case QMetaType::QDateTime:
+        sqlite3_bind_text16(stmt, index, value.toDateTime().toString(kDateFormat).utf16(), -1, SQLITE_TRANSIENT);
+        break;
+    case QMetaType::QDate:
+        sqlite3_bind_text16(stmt, index, value.toDate().startOfDay().toString(kDateFormat).utf16(), -1, SQLITE_TRANSIENT);
+        break;
+    default: {
+        const QString text = value.toString();
+        sqlite3_bind_text16(stmt, index, text.utf16(), static_cast<int>(text.size() * 2), SQLITE_TRANSIENT);
+    }
+    }
+}
+
+struct Statement {
+    sqlite3_stmt *stmt = nullptr;
+    ~Statement() { sqlite3_finalize(stmt); }
+};
+
+//! True when the statement has, outside parentheses and strings, one of the words that make a
+//! result read-only: a join, grouping, DISTINCT or a compound.
+bool hasReadOnlyShape(const QString &sql)
+{
+    int depth = 0;
+    QChar quote;
+    QString word;
+    auto check = [&](const QString &w) {
+        const QString u = w.toUpper();
+        return u == QLatin1String("JOIN") || u == QLatin1String("GROUP") || u == QLatin1String("DISTINCT")
+            || u == QLatin1String("UNION") || u == QLatin1String("HAVING") || u == QLatin1String("EXCEPT")
+            || u == QLatin1String("INTERSECT");
+    };
+    for (const QChar c : sql) {
+        if (!quote.isNull()) {
+            if (c == quote)
+                quote = QChar();
+            continue;
+        }
+        if (c == QLatin1Char('\'') || c == QLatin1Char('"')) {
+            quote = c;
+            word.clear();
+            continue;
+        }
+        if (c.isLetterOrNumber() || c == QLatin1Char('_')) {
+            word += c;
+            continue;
+        }
+        if (depth == 0 && !word.isEmpty() && check(word))
+            return true;
+        word.clear();
+        if (c == QLatin1Char('('))
+            ++depth;
+        else if (c == QLatin1Char(')'))
+            --depth;
+    }
+    return depth == 0 && !word.isEmpty() && check(word);
+}
+
+}  // namespace
+
+Recordset::Recordset(Database *db, QString jetSource, QString sqliteSql, RecordsetType type)
+    : m_db(db), m_sourceSql(std::move(jetSource)), m_sql(std::move(sqliteSql)), m_type(type) {}
+
+Recordset::~Recordset() = default;
+
+void Recordset::load()
+{
+    sqlite3 *h = m_db->handle();
+    Statement probe;
+    const QByteArray sql = m_sql.toUtf8();
+    if (sqlite3_prepare_v2(h, sql.constData(), -1, &probe.stmt, nullptr) != SQLITE_OK)
+        m_db->raiseLastError(m_sourceSql);
+    if (sqlite3_column_count(probe.stmt) == 0)
+        throw VbError(VbErr::InvalidArgument, QStringLiteral("Invalid argument: '%1' does not return records.").arg(m_sourceSql));
+
+    // Decide whether the rows can be written back: every column from one table, a plain single-table
+    // statement, and a dynaset.
+    const int n = sqlite3_column_count(probe.stmt);
+    QString table;
+    bool oneTable = true;
+    for (int i = 0; i < n; ++i) {
+        const char *t = sqlite3_column_table_name(probe.stmt, i);
+        if (!t) {
+            oneTable = false;
+            m_notUpdatableReason = QStringLiteral("a computed column");
+            break;
+        }
+        const QString name = QString::fromUtf8(t);
+        if (table.isEmpty())
+            table = name;
+        else if (name.compare(table, Qt::CaseInsensitive) != 0) {
+            oneTable = false;
+            m_notUpdatableReason = QStringLiteral("columns of several tables");
+            break;
+        }
+    }
+    if (m_type == RecordsetType::Snapshot)
+        m_notUpdatableReason = QStringLiteral("a snapshot");
+    else if (oneTable && hasReadOnlyShape(m_sql))
+        m_notUpdatableReason = QStringLiteral("a join, grouping or DISTINCT");
+    m_updatable = m_type != RecordsetType::Snapshot && oneTable && !table.isEmpty() && !hasReadOnlyShape(m_sql);
+
+    QVector<ColumnKind> kinds(n);
+    m_columns.clear();
+    m_originColumns.clear();
+    for (int i = 0; i < n; ++i) {
+        m_columns << QString::fromUtf8(sqlite3_column_name(probe.stmt, i));
+        const char *origin = sqlite3_column_origin_name(probe.stmt, i);
+        m_originColumns << (origin ? QString::fromUtf8(origin) : QString());
+        const char *decl = sqlite3_column_decltype(probe.stmt, i);
+        kinds[i] = kindOf(decl ? QString::fromUtf8(decl) : QString());
+    }
+
+    Statement run;
+    sqlite3_stmt *stmt = probe.stmt;
+    int offset = 0;
+    if (m_updatable) {
+        m_table = table;
+        m_keyColumn = m_db->primaryKeyOf(table);
+        m_keyIndex = -1;
+        for (int i = 0; i < n && !m_keyColumn.isEmpty(); ++i)
+            if (m_originColumns[i].compare(m_keyColumn, Qt::CaseInsensitive) == 0)
+                m_keyIndex = i;
+        // The rowid of every row is fetched beside the columns so that edits find their row.
+        const int select = m_sql.indexOf(QLatin1String("SELECT"), 0, Qt::CaseInsensitive);
+        QString withKey = m_sql;
+        withKey.insert(select + 6, QStringLiteral(" \"%1\".rowid AS %2,").arg(table, kRowIdAlias));
+        const QByteArray keyed = withKey.toUtf8();
+        if (sqlite3_prepare_v2(h, keyed.constData(), -1, &run.stmt, nullptr) == SQLITE_OK) {
+            stmt = run.stmt;
+            offset = 1;
+        } else {
+            m_updatable = false;
+            m_table.clear();
+            m_notUpdatableReason = QStringLiteral("no row identity");
+        }
+    }
+
+    m_rows.clear();
+    m_rowKeys.clear();
+    int rc;
+    while ((rc = sqlite3_step(stmt)) == SQLITE_ROW) {
+        QVector<QVariant> row(n);
+        for (int i = 0; i < n; ++i)
+            row[i] = readValue(stmt, i + offset, kinds[i]);
+        m_rows.push_back(std::move(row));
+        if (offset)
+            m_rowKeys.push_back(sqlite3_column_int64(stmt, 0));
+    }
+    if (rc != SQLITE_DONE)
+        m_db->raiseLastError(m_sourceSql);
+
+    m_editMode = EditMode::None;
+    m_populated = 0;
+    m_noMatch = false;
+    if (m_rows.isEmpty()) {
+        m_pos = -1;
+        m_bof = m_eof = true;
+    } else {
+        setPosition(0);
+    }
+}
+
+int Recordset::indexOf(const QString &name) const
+{
+    for (int i = 0; i < m_columns.size(); ++i)
+        if (m_columns[i].compare(name, Qt::CaseInsensitive) == 0)
+            return i;
+    // A qualified name "tbl.col" or "tbl!col" finds its column too.
+    const int dot = std::max(name.lastIndexOf(QLatin1Char('.')), name.lastIndexOf(QLatin1Char('!')));
+    if (dot > 0)
+        return indexOf(name.mid(dot + 1));
+    return -1;
+}
+
+QStringList Recordset::fieldNames() const { return m_columns; }
+
+void Recordset::requireCurrent() const
+{
+    if (m_closed)
+        throw VbError(VbErr::InvalidArgument, QStringLiteral("Operation is not allowed when the object is closed."));
+    if (m_editMode == EditMode::None && (m_deleted || m_pos < 0 || m_pos >= m_rows.size()))
+        throw VbError::noCurrentRecord();
+}
+
+QVariant Recordset::field(const QString &name) const
+{
+    const int i = indexOf(name);
+    if (i < 0)
+        throw VbError(VbErr::ItemNotFound, QStringLiteral("Item not found in this collection. (%1)").arg(name));
+    return field(i);
+}
+
+QVariant Recordset::field(int index) const
+{
+    requireCurrent();
+    if (index < 0 || index >= m_columns.size())
+        throw VbError(VbErr::ItemNotFound, QStringLiteral("Item not found in this collection."));
+    if (m_editMode != EditMode::None)
+        return m_buffer[index];
+    return m_rows[m_pos][index];
+}
+
+void Recordset::setField(const QString &name, const QVariant &value)
+{
+    const int i = indexOf(name);
+    if (i < 0)
+        throw VbError(VbErr::ItemNotFound, QStringLiteral("Item not found in this collection. (%1)").arg(name));
+    if (m_editMode == EditMode::None)
+        throw VbError(VbErr::UpdateWithoutAddNewOrEdit, QStringLiteral("Update or CancelUpdate without AddNew or Edit."));
+    QVariant stored = value;
+    const ColumnKind kind = kindOf(m_db->columnType(m_table, m_originColumns[i]));
+    const bool numeric = kind == ColumnKind::Integer || kind == ColumnKind::Real || kind == ColumnKind::Boolean;
+    if (numeric && value.isValid() && !value.isNull()) {
+        if (value.typeId() == QMetaType::QString) {
+            double d = 0;
+            if (!parseNumericText(value.toString(), d))
+                throw VbError(VbErr::DataTypeConversion, QStringLiteral("Data type conversion error."));
+            stored = d;
+        } else if (value.typeId() == QMetaType::Bool && kind != ColumnKind::Boolean) {
+            stored = value.toBool() ? -1 : 0;
+        }
+        if (kind == ColumnKind::Integer && stored.typeId() == QMetaType::Double) {
+            const double d = stored.toDouble();
+            stored = static_cast<qlonglong>(std::nearbyint(d));   // the engine rounds half to even
+        }
+        if (kind == ColumnKind::Boolean)
+            stored = stored.toDouble() != 0.0;
+    } else if (kind == ColumnKind::Date && value.typeId() == QMetaType::QDate) {
+        stored = value.toDate().startOfDay();
+    } else if (kind == ColumnKind::Text && value.isValid() && !value.isNull() && value.typeId() != QMetaType::QString) {
+        stored = value.toString();
+    }
+    m_buffer[i] = stored;
+    m_dirty[i] = true;
+}
+
+void Recordset::setPosition(int pos)
+{
+    m_deleted = false;
+    m_pos = pos;
+    m_bof = pos < 0;
+    m_eof = pos >= m_rows.size();
+    if (m_rows.isEmpty())
+        m_bof = m_eof = true;
+    if (!m_bof && !m_eof)
+        touch(pos);
+}
+
+void Recordset::MoveFirst()
+{
+    if (m_rows.isEmpty())
+        throw VbError::noCurrentRecord();
+    m_editMode = EditMode::None;
+    setPosition(0);
+}
+
+void Recordset::MoveLast()
+{
+    if (m_rows.isEmpty())
+        throw VbError::noCurrentRecord();
+    m_editMode = EditMode::None;
+    m_populated = static_cast<int>(m_rows.size());
+    setPosition(static_cast<int>(m_rows.size()) - 1);
+}
+
+void Recordset::MoveNext()
+{
+    if (m_eof)
+        throw VbError::noCurrentRecord();
+    m_editMode = EditMode::None;
+    setPosition(std::min<int>(m_pos + 1, static_cast<int>(m_rows.size())));
+}
+
+void Recordset::MovePrevious()
+{
+    if (m_bof)
+        throw VbError::noCurrentRecord();
+    m_editMode = EditMode::None;
+    setPosition(std::max(m_pos - 1, -1));
+}
+
+void Recordset::Move(int rows)
+{
+    if (rows == 0)
+        return;
+    if ((m_bof && rows < 0) || (m_eof && rows > 0))
+        throw VbError::noCurrentRecord();
+    m_editMode = EditMode::None;
+    const int target = m_pos + rows;
+    setPosition(std::clamp(target, -1, static_cast<int>(m_rows.size())));
+}
+
+int Recordset::RecordCount() const
+{
+    if (m_rows.isEmpty())
+        return 0;
+    return std::max(m_populated, 1);
+}
+
+int Recordset::AbsolutePosition() const
+{
+    if (m_bof || m_eof)
+        return -1;
+    return m_pos;
+}
+
+void Recordset::setAbsolutePosition(int pos)
+{
+    if (pos < 0 || pos >= m_rows.size())
+        throw VbError(VbErr::InvalidArgument, QStringLiteral("Invalid argument."));
+    m_editMode = EditMode::None;
+    setPosition(pos);
+}
+
+int Recordset::Bookmark() const
+{
+    requireCurrent();
+    return m_pos;
+}
+
+void Recordset::setBookmark(int bookmark) { setAbsolutePosition(bookmark); }
+
+void Recordset::find(const QString &criteria, int start, int step)
+{
+    // The criteria are evaluated by the database itself over the row's values, so that comparisons,
+    // LIKE and case rules are exactly those of a WHERE clause on the same columns.
+    const QString expr = translateJetCriteria(criteria);
+    QString select = QStringLiteral("SELECT (%1) FROM (SELECT ").arg(expr);
+    for (int i = 0; i < m_columns.size(); ++i) {
+        if (i)
+            select += QLatin1Char(',');
+        const QString type = m_table.isEmpty() || m_originColumns[i].isEmpty()
+                                 ? QString()
+                                 : m_db->columnType(m_table, m_originColumns[i]);
+        const bool text = kindOf(type) == ColumnKind::Text || type.isEmpty();
+        select += QStringLiteral("?%1%2 AS \"%3\"")
+                      .arg(i + 1)
+                      .arg(text ? QStringLiteral(" COLLATE NOCASE") : QString())
+                      .arg(QString(m_columns[i]).replace(QLatin1Char('"'), QLatin1String("\"\"")));
+    }
+    select += QLatin1Char(')');
+    Statement st;
+    const QByteArray utf8 = select.toUtf8();
+    if (sqlite3_prepare_v2(m_db->handle(), utf8.constData(), -1, &st.stmt, nullptr) != SQLITE_OK)
+        m_db->raiseLastError(criteria);
+    m_editMode = EditMode::None;
+    for (int r = start; r >= 0 && r < m_rows.size(); r += step) {
+        sqlite3_reset(st.stmt);
+        const QVector<QVariant> &row = m_rows[r];
+        for (int i = 0; i < row.size(); ++i)
+            bindValue(st.stmt, i + 1, row[i]);
+        const int rc = sqlite3_step(st.stmt);
+        if (rc != SQLITE_ROW)
+            m_db->raiseLastError(criteria);
+        if (sqlite3_column_type(st.stmt, 0) != SQLITE_NULL && sqlite3_column_double(st.stmt, 0) != 0.0) {
+            m_noMatch = false;
+            setPosition(r);
+            return;
+        }
+    }
+    // No match leaves the current row where it was, as DAO does.
+    m_noMatch = true;
+}
+
+void Recordset::FindFirst(const QString &criteria) { find(criteria, 0, 1); }
+void Recordset::FindLast(const QString &criteria) { find(criteria, static_cast<int>(m_rows.size()) - 1, -1); }
+void Recordset::FindNext(const QString &criteria) { find(criteria, m_bof ? 0 : m_pos + 1, 1); }
+void Recordset::FindPrevious(const QString &criteria)
+{
+    find(criteria, m_eof ? static_cast<int>(m_rows.size()) - 1 : m_pos - 1, -1);
+}
+
+static VbError notUpdatable(const QString &reason)
+{
+    return VbError(VbErr::ReadOnly,
+                   QStringLiteral("Cannot update. Database or object is read-only. (The recordset rests on %1.)").arg(reason));
+}
+
+void Recordset::AddNew()
+{
+    if (!m_updatable)
+        throw notUpdatable(m_notUpdatableReason);
+    m_buffer = QVector<QVariant>(m_columns.size());
+    m_dirty = QVector<bool>(m_columns.size(), false);
+    // Defaults of the table fill the new row, as the engine shows them before the row is saved.
+    sqlite3 *h = m_db->handle();
+    {
+        Statement st;
+        const QByteArray pragma = QStringLiteral("PRAGMA table_info(\"%1\")").arg(m_table).toUtf8();
+        if (sqlite3_prepare_v2(h, pragma.constData(), -1, &st.stmt, nullptr) == SQLITE_OK) {
+            while (sqlite3_step(st.stmt) == SQLITE_ROW) {
+                if (sqlite3_column_type(st.stmt, 4) == SQLITE_NULL)
+                    continue;
+                const QString col = QString::fromUtf8(reinterpret_cast<const char *>(sqlite3_column_text(st.stmt, 1)));
+                const QString dflt = QString::fromUtf8(reinterpret_cast<const char *>(sqlite3_column_text(st.stmt, 4)));
+                const QString type = QString::fromUtf8(reinterpret_cast<const char *>(sqlite3_column_text(st.stmt, 2)));
+                Statement ev;
+                const QByteArray q = QStringLiteral("SELECT %1").arg(dflt).toUtf8();
+                if (sqlite3_prepare_v2(h, q.constData(), -1, &ev.stmt, nullptr) == SQLITE_OK
+                    && sqlite3_step(ev.stmt) == SQLITE_ROW) {
+                    for (int i = 0; i < m_columns.size(); ++i)
+                        if (m_originColumns[i].compare(col, Qt::CaseInsensitive) == 0)
+                            m_buffer[i] = readValue(ev.stmt, 0, kindOf(type));
+                }
+            }
+        }
+    }
+    // The autonumber of the new row is known at once: callers read it before Update.
+    m_newKey = 0;
+    if (!m_keyColumn.isEmpty()) {
+        Statement st;
+        const QByteArray q = QStringLiteral("SELECT max(coalesce((SELECT seq FROM sqlite_sequence WHERE name = '%1'), 0), "
+                                            "coalesce((SELECT max(\"%2\") FROM \"%1\"), 0)) + 1")
+                                 .arg(m_table, m_keyColumn)
+                                 .toUtf8();
+        if (sqlite3_prepare_v2(h, q.constData(), -1, &st.stmt, nullptr) != SQLITE_OK) {
+            // sqlite_sequence exists only once a table uses AUTOINCREMENT; without it use the column.
+            Statement alt;
+            const QByteArray q2 = QStringLiteral("SELECT coalesce(max(\"%2\"), 0) + 1 FROM \"%1\"").arg(m_table, m_keyColumn).toUtf8();
+            if (sqlite3_prepare_v2(h, q2.constData(), -1, &alt.stmt, nullptr) != SQLITE_OK)
+                m_db->raiseLastError(m_table);
+            sqlite3_step(alt.stmt);
+            m_newKey = sqlite3_column_int64(alt.stmt, 0);
+        } else {
+            sqlite3_step(st.stmt);
+            m_newKey = sqlite3_column_int64(st.stmt, 0);
+        }
+        if (m_keyIndex >= 0) {
+            m_buffer[m_keyIndex] = static_cast<int>(m_newKey);
+            m_dirty[m_keyIndex] = true;
+        }
+    }
+    m_editMode = EditMode::Add;
+}
+
+void Recordset::Edit()
+{
+    if (!m_updatable)
+        throw notUpdatable(m_notUpdatableReason);
+    if (m_pos < 0 || m_pos >= m_rows.size())
+        throw VbError::noCurrentRecord();
+    m_buffer = m_rows[m_pos];
+    m_dirty = QVector<bool>(m_columns.size(), false);
+    m_editMode = EditMode::Edit;
+}
+
+void Recordset::CancelUpdate()
+{
+    if (m_editMode == EditMode::None)
+        throw VbError(VbErr::UpdateWithoutAddNewOrEdit, QStringLiteral("Update or CancelUpdate without AddNew or Edit."));
+    m_editMode = EditMode::None;
+}
+
+void Recordset::Update()
+{
+    if (m_editMode == EditMode::None)
+        throw VbError(VbErr::UpdateWithoutAddNewOrEdit, QStringLiteral("Update or CancelUpdate without AddNew or Edit."));
+    sqlite3 *h = m_db->handle();
+    QStringList cols;
+    QVector<QVariant> values;
+    for (int i = 0; i < m_columns.size(); ++i) {
+        if (!m_dirty[i] && !(m_editMode == EditMode::Add && m_buffer[i].isValid()))
+            continue;
+        if (m_originColumns[i].isEmpty())
+            continue;
+        cols << m_originColumns[i];
+        values << m_buffer[i];
+    }
+    QString sql;
+    if (m_editMode == EditMode::Add) {
+        QStringList quoted, marks;
+        for (int i = 0; i < cols.size(); ++i) {
+            quoted << QStringLiteral("\"%1\"").arg(cols[i]);
+            marks << QStringLiteral("?%1").arg(i + 1);
+        }
+        sql = cols.isEmpty() ? QStringLiteral("INSERT INTO \"%1\" DEFAULT VALUES").arg(m_table)
+                             : QStringLiteral("INSERT INTO \"%1\" (%2) VALUES (%3)").arg(m_table, quoted.join(QLatin1Char(',')),
+                                                                                     marks.join(QLatin1Char(',')));
+    } else {
+        if (cols.isEmpty()) {
+            m_editMode = EditMode::None;
+            return;
+        }
+        QStringList sets;
+        for (int i = 0; i < cols.size(); ++i)
+            sets << QStringLiteral("\"%1\" = ?%2").arg(cols[i]).arg(i + 1);
+        sql = QStringLiteral("UPDATE \"%1\" SET %2 WHERE rowid = ?%3").arg(m_table, sets.join(QLatin1Char(','))).arg(cols.size() + 1);
+    }
+    Statement st;
+    const QByteArray utf8 = sql.toUtf8();
+    if (sqlite3_prepare_v2(h, utf8.constData(), -1, &st.stmt, nullptr) != SQLITE_OK)
+        m_db->raiseLastError(sql);
+    for (int i = 0; i < values.size(); ++i)
+        bindValue(st.stmt, i + 1, values[i]);
+    if (m_editMode == EditMode::Edit)
+        sqlite3_bind_int64(st.stmt, static_cast<int>(values.size()) + 1, m_rowKeys[m_pos]);
+    if (sqlite3_step(st.stmt) != SQLITE_DONE)
+        m_db->raiseLastError(m_table);
+
+    const qint64 rowid = m_editMode == EditMode::Add ? sqlite3_last_insert_rowid(h) : m_rowKeys[m_pos];
+    // Read the stored row back, so that the recordset shows what the table now holds.
+    QVector<QVariant> stored = m_buffer;
+    {
+        QStringList names;
+        for (const QString &c : m_originColumns)
+            names << QStringLiteral("\"%1\"").arg(c);
+        Statement rd;
+        const QByteArray q = QStringLiteral("SELECT %1 FROM \"%2\" WHERE rowid = ?1").arg(names.join(QLatin1Char(',')), m_table).toUtf8();
+        if (sqlite3_prepare_v2(h, q.constData(), -1, &rd.stmt, nullptr) == SQLITE_OK) {
+            sqlite3_bind_int64(rd.stmt, 1, rowid);
+            if (sqlite3_step(rd.stmt) == SQLITE_ROW)
+                for (int i = 0; i < stored.size(); ++i)
+                    stored[i] = readValue(rd.stmt, i, kindOf(m_db->columnType(m_table, m_originColumns[i])));
+        }
+    }
+    if (m_editMode == EditMode::Add) {
+        // A new row joins the end of the recordset; the current row stays where it was.
+        m_rows.push_back(stored);
+        m_rowKeys.push_back(rowid);
+        if (m_bof && m_eof && m_rows.size() == 1) {
+            m_pos = -1;
+            m_bof = false;
+            m_eof = false;
+            setPosition(0);
+        } else if (m_eof) {
+            m_pos = static_cast<int>(m_rows.size());
+        }
+    } else {
+        m_rows[m_pos] = stored;
+    }
+    m_editMode = EditMode::None;
+}
+
+void Recordset::Delete()
+{
+    if (!m_updatable)
+        throw notUpdatable(m_notUpdatableReason);
+    if (m_pos < 0 || m_pos >= m_rows.size())
+        throw VbError::noCurrentRecord();
+    Statement st;
+    const QByteArray q = QStringLiteral("DELETE FROM \"%1\" WHERE rowid = ?1").arg(m_table).toUtf8();
+    if (sqlite3_prepare_v2(m_db->handle(), q.constData(), -1, &st.stmt, nullptr) != SQLITE_OK)
+        m_db->raiseLastError(m_table);
+    sqlite3_bind_int64(st.stmt, 1, m_rowKeys[m_pos]);
+    if (sqlite3_step(st.stmt) != SQLITE_DONE)
+        m_db->raiseLastError(m_table);
+    m_rows.removeAt(m_pos);
+    m_rowKeys.removeAt(m_pos);
+    // The position stays before the next row, so that MoveNext reaches it.
+    m_pos -= 1;
+    m_bof = m_pos < 0 && m_rows.isEmpty();
+    m_eof = m_rows.isEmpty();
+    m_deleted = true;
+    m_editMode = EditMode::None;
+}
+
+void Recordset::Requery()
+{
+    load();
+}
+
+void Recordset::Close()
+{
+    m_closed = true;
+    m_rows.clear();
+    m_rowKeys.clear();
+    m_editMode = EditMode::None;
+}

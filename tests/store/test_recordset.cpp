@@ -1,0 +1,193 @@
+// SPDX-License-Identifier: MIT
+// The DAO layer over SQLite: navigation, edits, autonumbers, Find, errors.
+#include "Database.h"
+#include "VbError.h"
+
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+namespace {
+
+class RecordsetTest : public ::testing::Test {
+protected:
+    void SetUp() override
+    {
+        db = Database::create(dir.filePath(QStringLiteral("t.sqlite")));
+        db->executeNative(QStringLiteral(
+            "CREATE TABLE tblThing (ThingID INTEGER PRIMARY KEY AUTOINCREMENT, Name TEXT COLLATE NOCASE, "
+            "Amount REAL, Flag BOOLEAN DEFAULT 0, Added DATETIME, Kind INTEGER DEFAULT 6);"
+            "CREATE TABLE tblLink (ThingID INTEGER, Note TEXT COLLATE NOCASE);"
+            "INSERT INTO tblThing (Name, Amount, Kind) VALUES ('Alder', 1.5, 4), ('birch', 2.5, 7), ('Cedar', NULL, 4);"
+            "INSERT INTO tblLink VALUES (1, 'a'), (1, 'b'), (3, 'c');"));
+    }
+    QTemporaryDir dir;
+    std::shared_ptr<Database> db;
+};
+
+int errorNumber(const std::function<void()> &f)
+{
+    try {
+        f();
+    } catch (const VbError &e) {
+        return e.number();
+    }
+    return 0;
+}
+
+TEST_F(RecordsetTest, NavigationCountsAsFarAsPopulated)
+{
+    auto rs = db->OpenRecordset(QStringLiteral("tblThing"));
+    EXPECT_FALSE(rs->BOF());
+    EXPECT_EQ(rs->RecordCount(), 1);  // only the first row has been visited
+    EXPECT_EQ(rs->AbsolutePosition(), 0);
+    rs->MoveNext();
+    EXPECT_EQ(rs->RecordCount(), 2);
+    rs->MoveLast();
+    EXPECT_EQ(rs->RecordCount(), 3);
+    EXPECT_EQ(rs->field(QStringLiteral("name")).toString(), QStringLiteral("Cedar"));
+    rs->MoveNext();
+    EXPECT_TRUE(rs->EOF_());
+    EXPECT_EQ(errorNumber([&] { rs->field(QStringLiteral("Name")); }), VbErr::NoCurrentRecord);
+    EXPECT_EQ(errorNumber([&] { rs->MoveNext(); }), VbErr::NoCurrentRecord);
+    rs->MovePrevious();
+    EXPECT_EQ(rs->AbsolutePosition(), 2);
+    rs->MoveFirst();
+    rs->MovePrevious();
+    EXPECT_TRUE(rs->BOF());
+
+    auto empty = db->OpenRecordset(QStringLiteral("Select * From tblThing Where ThingID = 99"));
+    EXPECT_TRUE(empty->BOF() && empty->EOF_());
+    EXPECT_EQ(empty->RecordCount(), 0);
+    EXPECT_EQ(errorNumber([&] { empty->MoveFirst(); }), VbErr::NoCurrentRecord);
+}
+
+TEST_F(RecordsetTest, FieldsAreCaseInsensitiveTypedAndNullable)
+{
+    auto rs = db->OpenRecordset(QStringLiteral("Select * From tblThing Order By ThingID"));
+    EXPECT_EQ(rs->field(QStringLiteral("AMOUNT")).toDouble(), 1.5);
+    EXPECT_EQ(rs->field(QStringLiteral("tblThing.Name")).toString(), QStringLiteral("Alder"));
+    EXPECT_EQ(rs->field(QStringLiteral("Flag")).typeId(), QMetaType::Bool);
+    EXPECT_EQ(errorNumber([&] { rs->field(QStringLiteral("Nope")); }), VbErr::ItemNotFound);
+    rs->MoveLast();
+    EXPECT_TRUE(rs->field(QStringLiteral("Amount")).isNull());
+}
+
+TEST_F(RecordsetTest, AddNewShowsAutonumberAndDefaultsBeforeUpdate)
+{
+    auto rs = db->OpenRecordset(QStringLiteral("tblThing"));
+    rs->AddNew();
+    EXPECT_EQ(rs->field(QStringLiteral("ThingID")).toInt(), 4);
+    EXPECT_EQ(rs->field(QStringLiteral("Kind")).toInt(), 6);
+    rs->setField(QStringLiteral("Name"), QStringLiteral("Dogwood"));
+    rs->setField(QStringLiteral("Amount"), QStringLiteral(" 1,234.5 "));  // numeric text, thousands included
+    rs->Update();
+    // The current row stays where it was; the new row joins the end.
+    EXPECT_EQ(rs->field(QStringLiteral("Name")).toString(), QStringLiteral("Alder"));
+    rs->MoveLast();
+    EXPECT_EQ(rs->field(QStringLiteral("Amount")).toDouble(), 1234.5);
+
+    // A deleted last row does not hand its number out again.
+    db->Execute(QStringLiteral("Delete * from tblThing where ThingID = 4"));
+    auto again = db->OpenRecordset(QStringLiteral("tblThing"));
+    again->AddNew();
+    EXPECT_EQ(again->field(QStringLiteral("ThingID")).toInt(), 5);
+    again->CancelUpdate();
+    EXPECT_EQ(db->OpenRecordset(QStringLiteral("Select * from tblThing where ThingID = 5"))->RecordCount(), 0);
+
+    // A table without a declared key gets rows too.
+    auto link = db->OpenRecordset(QStringLiteral("tblLink"));
+    link->AddNew();
+    link->setField(QStringLiteral("ThingID"), 2);
+    link->Update();
+    EXPECT_EQ(db->OpenRecordset(QStringLiteral("Select * from tblLink where ThingID = 2"))->RecordCount(), 1);
+}
+
+TEST_F(RecordsetTest, EditUpdateWritesOnlyThatRowAndRejectsBadNumbers)
+{
+    auto rs = db->OpenRecordset(QStringLiteral("Select * From tblThing Where Kind = 4"));
+    rs->MoveNext();
+    rs->Edit();
+    rs->setField(QStringLiteral("Amount"), QStringLiteral(".250"));
+    rs->Update();
+    EXPECT_EQ(rs->field(QStringLiteral("Amount")).toDouble(), 0.25);
+    auto check = db->OpenRecordset(QStringLiteral("Select Amount From tblThing Order By ThingID"), RecordsetType::Snapshot);
+    EXPECT_EQ(check->field(0).toDouble(), 1.5);
+    check->MoveLast();
+    EXPECT_EQ(check->field(0).toDouble(), 0.25);
+
+    rs->Edit();
+    EXPECT_EQ(errorNumber([&] { rs->setField(QStringLiteral("Amount"), QStringLiteral("not found")); }),
+              VbErr::DataTypeConversion);
+    rs->CancelUpdate();
+    EXPECT_EQ(errorNumber([&] { rs->setField(QStringLiteral("Amount"), 1); }), VbErr::UpdateWithoutAddNewOrEdit);
+    EXPECT_EQ(errorNumber([&] { rs->Update(); }), VbErr::UpdateWithoutAddNewOrEdit);
+}
+
+TEST_F(RecordsetTest, AggregatesJoinsAndSnapshotsCannotBeEdited)
+{
+    const QStringList readOnly = {
+        QStringLiteral("Select sum(Amount) As Total from tblThing"),
+        QStringLiteral("SELECT tblThing.Name, tblLink.Note FROM tblThing INNER JOIN tblLink ON tblThing.ThingID = tblLink.ThingID"),
+        QStringLiteral("SELECT tblThing.* FROM tblThing INNER JOIN tblLink ON tblThing.ThingID = tblLink.ThingID"),
+        QStringLiteral("SELECT DISTINCT Kind FROM tblThing"),
+    };
+    for (const QString &sql : readOnly) {
+        auto rs = db->OpenRecordset(sql);
+        EXPECT_FALSE(rs->updatable()) << sql.toStdString();
+        EXPECT_EQ(errorNumber([&] { rs->Edit(); }), VbErr::ReadOnly) << sql.toStdString();
+        EXPECT_EQ(errorNumber([&] { rs->AddNew(); }), VbErr::ReadOnly) << sql.toStdString();
+    }
+    auto snap = db->OpenRecordset(QStringLiteral("tblThing"), RecordsetType::Snapshot);
+    EXPECT_EQ(errorNumber([&] { snap->Edit(); }), VbErr::ReadOnly);
+}
+
+TEST_F(RecordsetTest, FindUsesJetCriteriaWithoutRegardToCase)
+{
+    auto rs = db->OpenRecordset(QStringLiteral("tblThing"), RecordsetType::Snapshot);
+    rs->FindFirst(QStringLiteral("Name = 'BIRCH'"));
+    ASSERT_FALSE(rs->NoMatch());
+    EXPECT_EQ(rs->field(QStringLiteral("ThingID")).toInt(), 2);
+    rs->FindFirst(QStringLiteral("Kind = 4"));
+    EXPECT_EQ(rs->field(QStringLiteral("ThingID")).toInt(), 1);
+    rs->FindNext(QStringLiteral("Kind = 4"));
+    EXPECT_EQ(rs->field(QStringLiteral("ThingID")).toInt(), 3);
+    rs->FindNext(QStringLiteral("Kind = 4"));
+    EXPECT_TRUE(rs->NoMatch());
+    EXPECT_EQ(rs->field(QStringLiteral("ThingID")).toInt(), 3);  // no match leaves the row alone
+    rs->FindFirst(QStringLiteral("Name Like 'c*'"));
+    EXPECT_EQ(rs->field(QStringLiteral("ThingID")).toInt(), 3);
+    rs->FindFirst(QStringLiteral("Amount Is Null"));
+    EXPECT_EQ(rs->field(QStringLiteral("ThingID")).toInt(), 3);
+    EXPECT_NE(errorNumber([&] { rs->FindFirst(QStringLiteral("Name = 'o'brien'")); }), 0);
+}
+
+TEST_F(RecordsetTest, DeleteMovesOnAndExecuteReportsErrors)
+{
+    auto rs = db->OpenRecordset(QStringLiteral("tblThing"));
+    rs->Delete();
+    EXPECT_EQ(errorNumber([&] { rs->field(QStringLiteral("Name")); }), VbErr::NoCurrentRecord);
+    rs->MoveNext();
+    EXPECT_EQ(rs->field(QStringLiteral("Name")).toString(), QStringLiteral("birch"));
+
+    EXPECT_EQ(db->Execute(QStringLiteral("UPDATE tblThing SET tblThing.Kind = 9 WHERE tblThing.Kind = 4")), 1);
+    EXPECT_EQ(errorNumber([&] { db->Execute(QStringLiteral("Select * From tblUser Where User ='o'brien'")); }),
+              VbErr::SyntaxError);
+    EXPECT_EQ(errorNumber([&] { db->OpenRecordset(QStringLiteral("tblMissing")); }), VbErr::InputTableNotFound);
+    EXPECT_EQ(errorNumber([&] { db->Execute(QStringLiteral("INSERT INTO tblThing (ThingID, Name) VALUES (2, 'x')")); }),
+              VbErr::DuplicateKey);
+    // Without failOnError a row that breaks a rule is skipped instead.
+    EXPECT_EQ(db->Execute(QStringLiteral("INSERT INTO tblThing (ThingID, Name) VALUES (2, 'x')"), false), 0);
+}
+
+TEST(DatabaseOpen, MissingOrDamagedFilesRaiseTheirNumbers)
+{
+    QTemporaryDir dir;
+    EXPECT_EQ(errorNumber([&] { Database::open(dir.filePath(QStringLiteral("none.sqlite"))); }), VbErr::CouldNotFindFile);
+    QFile junk(dir.filePath(QStringLiteral("junk.sqlite")));
+    ASSERT_TRUE(junk.open(QIODevice::WriteOnly));
+    junk.write(QByteArray(4096, 'x'));
+    junk.close();
+    EXPECT_EQ(errorNumber([&] { Database::open(junk.fileName()); }), VbErr::NotDatabaseFormat);
+}
+
+}  // namespace
