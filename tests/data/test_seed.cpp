@@ -1,0 +1,445 @@
+// SPDX-License-Identifier: MIT
+// The built default database: the fixed ids, the integrity of every reference between tables, the
+// diets and equations the calculations rest on, and a worked intake example for a bird and a mammal.
+// Reads the database with the SQLite C API, independently of the recordset layer.
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QStringList>
+#include <QTemporaryDir>
+
+#include <sqlite3.h>
+
+#include <cmath>
+#include <memory>
+
+namespace {
+
+struct Closer {
+    void operator()(sqlite3 *db) const { sqlite3_close(db); }
+};
+using Db = std::unique_ptr<sqlite3, Closer>;
+
+Db openReadOnly(const QString &path)
+{
+    sqlite3 *raw = nullptr;
+    const int rc = sqlite3_open_v2(path.toUtf8().constData(), &raw, SQLITE_OPEN_READONLY, nullptr);
+    Db db(raw);
+    EXPECT_EQ(rc, SQLITE_OK) << path.toStdString();
+    return db;
+}
+
+using Row = QStringList;
+
+//! Every row of a query as texts ("<null>" for null).
+QList<Row> rows(sqlite3 *db, const QString &sql)
+{
+    QList<Row> out;
+    sqlite3_stmt *stmt = nullptr;
+    if (sqlite3_prepare_v2(db, sql.toUtf8().constData(), -1, &stmt, nullptr) != SQLITE_OK) {
+        ADD_FAILURE() << sql.toStdString() << ": " << sqlite3_errmsg(db);
+        return out;
+    }
+    while (sqlite3_step(stmt) == SQLITE_ROW) {
+        Row r;
+        for (int c = 0; c < sqlite3_column_count(stmt); ++c)
+            r.append(sqlite3_column_type(stmt, c) == SQLITE_NULL
+                         ? QStringLiteral("<null>")
+                         : QString::fromUtf8(reinterpret_cast<const char *>(sqlite3_column_text(stmt, c))));
+        out.append(r);
+    }
+    sqlite3_finalize(stmt);
+    return out;
+}
+
+QString scalar(sqlite3 *db, const QString &sql)
+{
+    const auto r = rows(db, sql);
+    return r.isEmpty() ? QStringLiteral("<none>") : r.first().value(0);
+}
+
+double number(sqlite3 *db, const QString &sql)
+{
+    bool ok = false;
+    const double v = scalar(db, sql).toDouble(&ok);
+    EXPECT_TRUE(ok) << sql.toStdString();
+    return v;
+}
+
+class SeedDb : public ::testing::Test {
+protected:
+    void SetUp() override { db = openReadOnly(QStringLiteral(ZOB_SEED_DB)); }
+    sqlite3 *h() const { return db.get(); }
+    Db db;
+};
+
+//! Rounds to two decimals, ties away from zero, as the calculation results are stored and shown.
+double round2(double v) { return std::round(v * 100.0) / 100.0; }
+
+}  // namespace
+
+TEST_F(SeedDb, FixedIdsExistWithTheirMeaning)
+{
+    const QList<QPair<QString, QString>> expected = {
+        {"SELECT Description || '|' || IsLocked FROM tblDataSource WHERE DataSourceID = 6", "User entered|0"},
+        {"SELECT ForeColor FROM tblDataSource WHERE DataSourceID = 6", "16711680"},
+        {"SELECT IsLocked FROM tblDataSource WHERE DataSourceID = 2", "0"},
+        {"SELECT IsLocked FROM tblDataSource WHERE DataSourceID = 4", "1"},
+        {"SELECT IsLocked FROM tblDataSource WHERE DataSourceID = 7", "1"},
+        {"SELECT group_concat(DataSourceID) FROM tblDataSource WHERE IsLocked = 1", "4,7"},
+        {"SELECT group_concat(IntakeTypeID || ':' || IsModel) FROM (SELECT * FROM tblIntakeType ORDER BY IntakeTypeID)",
+         "1:1,2:1,3:1,4:0,5:0"},
+        {"SELECT group_concat(Description, '|') FROM (SELECT * FROM tblEstimator WHERE EstimatorID BETWEEN 0 AND 5 "
+         "ORDER BY EstimatorID)",
+         "Detection Limit|Mean|Max|Min|Mean + Variance|Mean - Variance"},
+        {"SELECT group_concat(GenderID || ':' || Description) FROM (SELECT * FROM tblGender "
+         "WHERE GenderID IN (1, 4, 5, 6) ORDER BY GenderID)",
+         "1:Both,4:Male,5:Female,6:Unknown"},
+        {"SELECT group_concat(StatusID || ':' || Description) FROM (SELECT * FROM tblStatus ORDER BY StatusID)",
+         "1:Captive,2:Wild"},
+        {"SELECT Description FROM tblLifeStage WHERE LifeStageID = 7", "adult"},
+        {"SELECT count(*) FROM tblLifeStage WHERE Description = 'adult' AND LifeStageID <> 7", "0"},
+        {"SELECT Description || '|' || Factor FROM tblUnits WHERE UnitsID = 11", "g|1.0"},
+        {"SELECT Description || '|' || Factor FROM tblUnits WHERE UnitsID = 13", "kg|0.001"},
+        {"SELECT ActualTableName FROM tblTableList WHERE TableListID = 12", "tblComments"},
+        // The life-history browser asks for these factors, size classes and activity classes.
+        {"SELECT group_concat(description, '|') FROM (SELECT * FROM tblFactor WHERE FactorID IN (2,3,4,5,6,7,8,10,11) "
+         "ORDER BY FactorID)",
+         "Sediment Ingestion Rate|Metabolic Rate|Inhalation Rate|Water Ingestion Rate|Growth Rate|Surface Area|"
+         "Body Length|Body Fat|Food Ingestion Rate"},
+        {"SELECT count(DISTINCT POPSIZE_class) FROM tblPOPSIZEselect WHERE POPSIZE_class IN ('POPDYN', 'RANGE')", "2"},
+        {"SELECT count(DISTINCT Acitivity_class) FROM tblActivity "
+         "WHERE Acitivity_class IN ('dispersal', 'tempreg/develop', 'reproduction')", "3"},
+    };
+    for (const auto &e : expected)
+        EXPECT_EQ(scalar(h(), e.first), e.second) << e.first.toStdString();
+    // The month combo sorts by name, which puts April first.
+    EXPECT_EQ(scalar(h(), "SELECT Description FROM tblMonth ORDER BY Description"), "April");
+}
+
+TEST_F(SeedDb, TableListRowsPointAtRealTablesAndColumns)
+{
+    const auto list = rows(h(), "SELECT Name, ActualTableName, Field1, Field2, Field3, L3IsVisible FROM tblTableList "
+                                "WHERE L1IsVisible = 1");
+    QStringList names;
+    for (const Row &r : list) {
+        names.append(r[0]);
+        QStringList fields = {r[2], r[3]};
+        if (r[5] == "1")
+            fields.append(r[4]);
+        // The setup window builds "Select f1, f2[, f3] from table" from these slots.
+        const QString sql = QStringLiteral("SELECT %1 FROM [%2] LIMIT 0").arg(fields.join(", "), r[1]);
+        sqlite3_stmt *stmt = nullptr;
+        EXPECT_EQ(sqlite3_prepare_v2(h(), sql.toUtf8().constData(), -1, &stmt, nullptr), SQLITE_OK)
+            << r[0].toStdString() << ": " << sqlite3_errmsg(h());
+        sqlite3_finalize(stmt);
+    }
+    for (const char *wanted : {"Gender", "Genus", "Species", "Location"})
+        EXPECT_TRUE(names.contains(wanted)) << wanted;
+}
+
+TEST_F(SeedDb, EveryIdResolves)
+{
+    // column of a table -> the lookup it points to; 0 and null mean none.
+    struct Link {
+        const char *table;
+        const char *columns;
+        const char *target;
+        const char *key;
+    };
+    const QList<Link> links = {
+        {"*", "ReferenceID", "tblReferences", "ReferenceID"},
+        {"*", "DataSourceID WaterPercentDS TrophiclevelDS", "tblDataSource", "DataSourceID"},
+        {"*", "SpeciesID", "tblSpecies", "SpeciesID"},
+        {"*", "VarianceTypeID", "tblVarianceType", "VarianceTypeID"},
+        {"*", "StatusID", "tblStatus", "StatusID"},
+        {"*", "GenderID", "tblGender", "GenderID"},
+        {"*", "LifestageID", "tblLifeStage", "LifeStageID"},
+        {"*", "HabitatTypeID", "tblHabitatType", "HabitatTypeID"},
+        {"*", "BegMonthID EndMonthID", "tblMonth", "MonthID"},
+        {"*", "FoodGroupID", "tblFoodGroup", "FoodGroupID"},
+        {"*", "ComponentID", "tblComponent", "ComponentID"},
+        {"*", "TaxonID", "tblTaxon", "TaxonID"},
+        {"*", "IntakeTypeID", "tblIntakeType", "IntakeTypeID"},
+        {"*", "UnitsID WtUnitsID EqnUnitsID FinalUnitsID", "tblUnits", "UnitsID"},
+        {"*", "CategoryID", "tblCategory", "CategoryID"},
+        {"*", "ModelDescriptionID", "tblModelDescription", "ModelDescriptionID"},
+        {"*", "StateProvinceID", "tblStateProvince", "StateProvinceID"},
+        {"*", "KingdomID", "tblKingdom", "KingdomID"},
+        {"*", "SubkingdomID", "tblSubkingdom", "SubkingdomID"},
+        {"*", "PhylumID", "tblPhylum", "PhylumID"},
+        {"*", "ClassID", "tblClass", "ClassID"},
+        {"*", "OrderID", "tblOrder", "OrderID"},
+        {"*", "FamilyID", "tblFamily", "FamilyID"},
+        {"*", "GrossEnergyID", "tblGrossEnergy", "GrossEnergyID"},
+        {"*", "AEID", "tblAE", "AEID"},
+        {"*", "WaterConversionID", "tblWaterConversion", "WaterConversionID"},
+        {"*", "TrophicLevelID", "tblTrophicLevel", "TrophicLevelID"},
+        {"*", "DietID", "tblDiet", "DietID"},
+        {"tblDiet", "DataTypeID", "tblDataType", "DataTypeID"},
+        {"tblDiet", "DietTypeID", "tblDietType", "DietTypeID"},
+        {"tblDiet", "MeasureTermID", "tblMeasureTerm", "MeasureTermID"},
+        {"tblDiet", "MaterialAnalyzedID", "tblMaterialAnalyzed", "MaterialAnalyzedID"},
+        {"tblDiet", "AnalysisID", "tblAnalysis", "AnalysisID"},
+        {"tblPOPDENS", "FactorID", "tblFactor", "FactorID"},
+        {"tblPOPDENS", "Popsize_id", "tblPOPSIZEselect", "POPSIZE_ID"},
+        {"tblSEASON", "Activity_ID", "tblActivity", "ACTIVITY_ID"},
+        {"tblSEASON", "begmonth_code peakmonth_code endmonth_code", "tblMonth", "MonthID"},
+        {"tblLIFEHISTORYTEXT",
+         "Ref1 Ref2 Ref3 Ref4 Ref5 Ref6 Ref7 Ref8 Ref9 Ref10 Ref11 Ref12 Ref13 Ref14 Ref15 "
+         "GenRef1 GenRef2 GenRef3 GenRef4 GenRef5 GenRef6 GenRef7",
+         "tblReferences", "ReferenceID"},
+    };
+    QStringList tables;
+    for (const Row &r : rows(h(), "SELECT name FROM sqlite_master WHERE type = 'table' AND name NOT LIKE 'sqlite%'"))
+        tables.append(r[0]);
+    int checked = 0;
+    for (const Link &link : links) {
+        for (const QString &column : QString::fromLatin1(link.columns).split(' ')) {
+            for (const QString &table : tables) {
+                if (QLatin1String(link.table) != QLatin1String("*") && table != QLatin1String(link.table))
+                    continue;
+                if (table == QLatin1String(link.target))
+                    continue;  // the key itself
+                // Scenario tables are empty in the seed; the columns exist there too.
+                if (scalar(h(), QStringLiteral("SELECT count(*) FROM pragma_table_info('%1') WHERE name = '%2' "
+                                               "COLLATE NOCASE").arg(table, column)) != "1")
+                    continue;
+                ++checked;
+                const auto dangling = rows(h(), QStringLiteral("SELECT DISTINCT [%2] FROM [%1] WHERE [%2] IS NOT NULL "
+                                                               "AND [%2] <> 0 AND [%2] NOT IN (SELECT [%4] FROM [%3])")
+                                                    .arg(table, column, QLatin1String(link.target), QLatin1String(link.key)));
+                for (const Row &d : dangling)
+                    ADD_FAILURE() << table.toStdString() << "." << column.toStdString() << " = " << d[0].toStdString()
+                                  << " is not in " << link.target;
+            }
+        }
+    }
+    EXPECT_GT(checked, 100);
+    // Id 0 means "none": only the estimator lookup has a row with key 0.
+    for (const char *lookup : {"tblDataSource", "tblGender", "tblStatus", "tblLifeStage", "tblUnits", "tblIntakeType",
+                               "tblTaxon", "tblMonth", "tblReferences", "tblSpecies", "tblFamily"}) {
+        const QString key = scalar(h(), QStringLiteral("SELECT name FROM pragma_table_info('%1') WHERE pk = 1").arg(lookup));
+        EXPECT_EQ(scalar(h(), QStringLiteral("SELECT count(*) FROM %1 WHERE %2 = 0").arg(lookup, key)), "0") << lookup;
+    }
+}
+
+TEST_F(SeedDb, ValueRowsCiteAReferenceAndKeepAClass)
+{
+    for (const char *table : {"tblWeight", "tblDiet", "tblGrossEnergy", "tblAE", "tblWaterConversion",
+                              "tblTrophicLevel", "tblIntakeModel", "tblIntakeMeasured", "tblSoilIngestion",
+                              "tblPOPDENS", "tblSEASON", "jtblSpeciesReference"}) {
+        EXPECT_NE(scalar(h(), QStringLiteral("SELECT count(*) FROM %1").arg(table)), "0") << table;
+        EXPECT_EQ(scalar(h(), QStringLiteral("SELECT count(*) FROM %1 WHERE ReferenceID IS NULL OR ReferenceID = 0")
+                                  .arg(table)), "0") << table;
+    }
+    for (const char *table : {"tblSpecies", "tblWeight", "tblDiet", "tblDietItem", "tblGrossEnergy", "tblAE",
+                              "tblWaterConversion", "tblTrophicLevel", "tblIntakeModel", "tblIntakeMeasured",
+                              "tblSoilIngestion", "tblReferences"})
+        EXPECT_EQ(scalar(h(), QStringLiteral("SELECT count(*) FROM %1 WHERE DataSourceID IS NULL").arg(table)), "0")
+            << table;
+}
+
+TEST_F(SeedDb, ClassificationJoinsFromKingdomDown)
+{
+    // Every family reaches a kingdom through the six-level inner join of the classification search.
+    const QString path = "FROM tblKingdom k JOIN tblSubkingdom s ON s.KingdomID = k.KingdomID "
+                         "JOIN tblPhylum p ON p.SubkingdomID = s.SubkingdomID JOIN tblClass c ON c.PhylumID = p.PhylumID "
+                         "JOIN tblOrder o ON o.ClassID = c.ClassID JOIN tblFamily f ON f.OrderID = o.OrderID";
+    EXPECT_EQ(scalar(h(), "SELECT count(*) " + path), scalar(h(), "SELECT count(*) FROM tblFamily"));
+
+    // Species are classified to family, and the six ids of each are one path.
+    EXPECT_EQ(scalar(h(), "SELECT count(*) FROM tblSpecies x WHERE NOT EXISTS (SELECT 1 " + path +
+                              " WHERE k.KingdomID = x.KingdomID AND s.SubkingdomID = x.SubkingdomID AND "
+                              "p.PhylumID = x.PhylumID AND c.ClassID = x.ClassID AND o.OrderID = x.OrderID AND "
+                              "f.FamilyID = x.FamilyID)"),
+              "0");
+
+    // Food items may be classified only as far as they are known ("Fish" has no family), but the
+    // levels they give start at the kingdom, have no gaps, and each one lies under the one above.
+    for (const char *table : {"tblDietItem", "tblGrossEnergy", "tblAE", "tblWaterConversion", "tblTrophicLevel"}) {
+        const auto bad = rows(h(), QStringLiteral(
+            "SELECT rowid FROM %1 x WHERE KingdomID > 0 AND ("
+            " (SubkingdomID IS NULL AND COALESCE(PhylumID, ClassID, OrderID, FamilyID) IS NOT NULL)"
+            " OR (PhylumID IS NULL AND COALESCE(ClassID, OrderID, FamilyID) IS NOT NULL)"
+            " OR (ClassID IS NULL AND COALESCE(OrderID, FamilyID) IS NOT NULL)"
+            " OR (OrderID IS NULL AND FamilyID IS NOT NULL)"
+            " OR (SubkingdomID IS NOT NULL AND (SELECT KingdomID FROM tblSubkingdom WHERE SubkingdomID = x.SubkingdomID) <> x.KingdomID)"
+            " OR (PhylumID IS NOT NULL AND (SELECT SubkingdomID FROM tblPhylum WHERE PhylumID = x.PhylumID) <> x.SubkingdomID)"
+            " OR (ClassID IS NOT NULL AND (SELECT PhylumID FROM tblClass WHERE ClassID = x.ClassID) <> x.PhylumID)"
+            " OR (OrderID IS NOT NULL AND (SELECT ClassID FROM tblOrder WHERE OrderID = x.OrderID) <> x.ClassID)"
+            " OR (FamilyID IS NOT NULL AND (SELECT OrderID FROM tblFamily WHERE FamilyID = x.FamilyID) <> x.OrderID))")
+                                       .arg(table));
+        for (const Row &r : bad)
+            ADD_FAILURE() << table << " row " << r[0].toStdString() << " has an inconsistent classification";
+    }
+}
+
+TEST_F(SeedDb, DietsCanBeCopiedAndTheirProportionsSumToOne)
+{
+    // The copy into a scenario keeps only items with a moisture row (inner join on tblWaterConversion).
+    const auto dropped = rows(h(), "SELECT i.DietID, i.Name FROM tblDietItem i LEFT JOIN tblWaterConversion w "
+                                   "ON i.WaterConversionID = w.WaterConversionID WHERE w.WaterConversionID IS NULL");
+    for (const Row &r : dropped)
+        std::printf("diet %s: item \"%s\" has no moisture row and is not copied into a scenario\n",
+                    qPrintable(r[0]), qPrintable(r[1]));
+    const auto kept = rows(h(), "SELECT d.DietID, count(i.DietItemID), count(w.WaterConversionID) FROM tblDiet d "
+                                "LEFT JOIN tblDietItem i ON i.DietID = d.DietID LEFT JOIN tblWaterConversion w "
+                                "ON i.WaterConversionID = w.WaterConversionID GROUP BY d.DietID");
+    ASSERT_FALSE(kept.isEmpty());
+    for (const Row &r : kept) {
+        EXPECT_GT(r[1].toInt(), 0) << "diet " << r[0].toStdString() << " has no items";
+        EXPECT_GE(2 * r[2].toInt(), r[1].toInt()) << "diet " << r[0].toStdString() << " loses most items on copy";
+    }
+
+    // On the basis its measure term names, each diet's proportions add up to one.
+    const auto sums = rows(h(), "SELECT d.DietID, m.WeightIsWet, "
+                                "SUM(CASE WHEN m.WeightIsWet = 1 THEN i.Wet_Proportion ELSE i.Dry_Proportion END) "
+                                "FROM tblDiet d JOIN tblMeasureTerm m ON m.MeasureTermID = d.MeasureTermID "
+                                "JOIN tblDietItem i ON i.DietID = d.DietID GROUP BY d.DietID");
+    EXPECT_EQ(QString::number(sums.size()), scalar(h(), "SELECT count(*) FROM tblDiet"))
+        << "every diet needs a measure term";
+    for (const Row &r : sums)
+        EXPECT_NEAR(r[2].toDouble(), 1.0, 0.005) << "diet " << r[0].toStdString() << " basis wet=" << r[1].toStdString();
+}
+
+TEST_F(SeedDb, AllometricEquationsGiveSensibleRates)
+{
+    // Evaluated as the program does: a * (Factor * W)^b * UCF * MMF, W in grams, over the range of
+    // body weights seeded for species of the equation's taxon.
+    const auto models = rows(h(), "SELECT m.IntakeModelID, m.a, m.b, COALESCE(m.UCF, 1), COALESCE(m.MMF, 1), u.Factor, "
+                                  "MIN(w.Mean), MAX(w.Mean) FROM tblIntakeModel m "
+                                  "JOIN tblUnits u ON u.UnitsID = m.WtUnitsID "
+                                  "JOIN tblSpecies s ON s.TaxonID = m.TaxonID JOIN tblWeight w ON w.SpeciesID = s.SpeciesID "
+                                  "GROUP BY m.IntakeModelID");
+    EXPECT_EQ(QString::number(models.size()), scalar(h(), "SELECT count(*) FROM tblIntakeModel WHERE TaxonID IN "
+                                                          "(SELECT TaxonID FROM tblSpecies)"));
+    for (const Row &r : models) {
+        for (const double w : {r[6].toDouble(), r[7].toDouble()}) {
+            const double rate = r[1].toDouble() * std::pow(r[5].toDouble() * w, r[2].toDouble()) * r[3].toDouble() *
+                                r[4].toDouble();
+            EXPECT_TRUE(std::isfinite(rate) && rate > 0) << "model " << r[0].toStdString() << " at " << w << " g";
+        }
+    }
+    // Free-living metabolic rate equations of one taxon agree with each other for a 1 kg animal
+    // within a factor of two: a wrong weight unit (g for kg) would put one off by a factor near 100.
+    const auto fmr = rows(h(), "SELECT m.TaxonID, MIN(m.a * pow(u.Factor * 1000, m.b) * m.UCF * m.MMF), "
+                               "MAX(m.a * pow(u.Factor * 1000, m.b) * m.UCF * m.MMF), count(*) FROM tblIntakeModel m "
+                               "JOIN tblUnits u ON u.UnitsID = m.WtUnitsID WHERE m.IntakeTypeID = 3 AND "
+                               "m.ModelDescriptionID = 4 GROUP BY m.TaxonID HAVING count(*) > 1");
+    ASSERT_FALSE(fmr.isEmpty());
+    for (const Row &r : fmr)
+        EXPECT_LT(r[2].toDouble() / r[1].toDouble(), 2.0) << "taxon " << r[0].toStdString();
+}
+
+TEST_F(SeedDb, WorkedExampleMallardAndRedFox)
+{
+    // Metabolizable energy of a diet on the wet basis: sum of proportion * GE(wet) * AE/100, the way
+    // the energy query sums the items that have both an energy and an efficiency row.
+    const QString me = "SELECT SUM(a.Mean * 0.01 * g.WET_WT_KCALG * i.Wet_Proportion) FROM tblGrossEnergy g "
+                       "JOIN tblDietItem i ON g.GrossEnergyID = i.GrossEnergyID JOIN tblAE a ON i.AEID = a.AEID "
+                       "WHERE i.DietID = %1";
+    // Field metabolic rate in kcal/day from an allometric row for a body weight in grams.
+    const QString fmr = "SELECT m.UCF * m.a * pow(u.Factor * %2, m.b) * COALESCE(m.MMF, 1) FROM tblIntakeModel m "
+                        "JOIN tblUnits u ON u.UnitsID = m.WtUnitsID WHERE m.IntakeModelID = %1";
+
+    // Mallard (species 3), diet 3 measured as % biomass (wet basis), adult male wild weight 1210 g.
+    EXPECT_EQ(scalar(h(), "SELECT Common FROM tblSpecies WHERE SpeciesID = 3"), "Mallard");
+    EXPECT_EQ(scalar(h(), "SELECT WeightIsWet FROM tblDiet JOIN tblMeasureTerm USING (MeasureTermID) WHERE DietID = 3"), "1");
+    EXPECT_EQ(number(h(), "SELECT Mean FROM tblWeight WHERE WeightID = 5 AND SpeciesID = 3"), 1210.0);
+    //   terrestrial insects  0.26 * 1.7   * 72 %   = 0.31824
+    //   snails               0.15 * 0.985 * 73 %   = 0.1078575
+    //   seeds and grain      0.35 * 4.254 * 60.3 % = 0.8978067
+    //   spiders etc.         0.12 * 1.7   * 72 %   = 0.14688
+    //   earthworms           0.12 * 0.9   * 72 %   = 0.07776
+    //   MEavg = 1.5485442 kcal/g wet, shown as 1.55
+    const double mallardMe = number(h(), me.arg(3));
+    EXPECT_NEAR(mallardMe, 1.5485442, 1e-6);
+    // All birds, free-living (model 8): 10.5 * 1210^0.681 kJ/day = 10.5 * 125.7120 = 1319.976 kJ/day,
+    // * 0.239006 kcal/kJ = 315.48 kcal/day.
+    const double mallardFmr = number(h(), fmr.arg(8).arg(1210));
+    EXPECT_NEAR(mallardFmr, 315.48, 0.005);
+    // TDI = 315.48 / 1.55 = 203.535... -> 203.54 g/day wet.
+    EXPECT_DOUBLE_EQ(round2(round2(mallardFmr) / round2(mallardMe)), 203.54);
+
+    // Red fox (species 33), diet 31 on the wet basis, weight 4820.36 g (both sexes).
+    EXPECT_EQ(scalar(h(), "SELECT Common FROM tblSpecies WHERE SpeciesID = 33"), "Red fox");
+    EXPECT_EQ(scalar(h(), "SELECT WeightIsWet FROM tblDiet JOIN tblMeasureTerm USING (MeasureTermID) WHERE DietID = 31"), "1");
+    EXPECT_EQ(number(h(), "SELECT Mean FROM tblWeight WHERE WeightID = 59 AND SpeciesID = 33"), 4820.36);
+    //   invertebrates            0.2 * 1.7   * 87 %   = 0.2958
+    //   mammals and birds        0.7 * 1.7   * 84 %   = 0.9996
+    //   fruit (blueberry pulp)   0.1 * 0.603 * 83.4 % = 0.0502902
+    //   MEavg = 1.3456902 kcal/g wet, shown as 1.35
+    const double foxMe = number(h(), me.arg(31));
+    EXPECT_NEAR(foxMe, 1.3456902, 1e-6);
+    // All mammals, free-living (model 9): 4.82 * 4820.36^0.734 = 4.82 * 505.1034 = 2434.599 kJ/day,
+    // * 0.239006 = 581.88 kcal/day.
+    const double foxFmr = number(h(), fmr.arg(9).arg(4820.36));
+    EXPECT_NEAR(foxFmr, 581.88, 0.005);
+    // TDI = 581.88 / 1.35 = 431.022... -> 431.02 g/day wet.
+    EXPECT_DOUBLE_EQ(round2(round2(foxFmr) / round2(foxMe)), 431.02);
+}
+
+#ifdef ZOBSEED_EXE
+namespace {
+
+//! Every row of every table, in key order, as one text.
+QString dumpAll(const QString &path)
+{
+    const Db db = openReadOnly(path);
+    QString out;
+    for (const Row &t : rows(db.get(), "SELECT name FROM sqlite_master WHERE type IN ('table', 'view') "
+                                       "AND name NOT LIKE 'sqlite%' ORDER BY name")) {
+        out += "== " + t[0] + "\n";
+        const QString order = t[0].startsWith("qry") ? QStringLiteral("1") : QStringLiteral("rowid");
+        for (const Row &r : rows(db.get(), QStringLiteral("SELECT * FROM [%1] ORDER BY %2").arg(t[0], order)))
+            out += r.join(QChar(0x1f)) + "\n";
+    }
+    return out;
+}
+
+int runSeedTool(const QStringList &args, QString *errors = nullptr)
+{
+    QProcess p;
+    p.start(QStringLiteral(ZOBSEED_EXE), args);
+    p.waitForFinished(-1);
+    if (errors)
+        *errors = QString::fromLocal8Bit(p.readAllStandardError());
+    return p.exitStatus() == QProcess::NormalExit ? p.exitCode() : -1;
+}
+
+}  // namespace
+
+TEST(SeedTool, BuildsTheSameDatabaseEveryTime)
+{
+    QTemporaryDir dir;
+    const QString seed = QStringLiteral(ZOB_SOURCE_DIR "/data/seed");
+    const QString a = dir.filePath("a.sqlite");
+    const QString b = dir.filePath("b.sqlite");
+    ASSERT_EQ(runSeedTool({seed, a}), 0);
+    ASSERT_EQ(runSeedTool({seed, b}), 0);
+    // Running again over an existing file replaces it rather than adding to it.
+    ASSERT_EQ(runSeedTool({seed, b}), 0);
+    const QString dumpA = dumpAll(a);
+    EXPECT_GT(dumpA.size(), 10000);
+    EXPECT_EQ(dumpA, dumpAll(b));
+    EXPECT_EQ(dumpA, dumpAll(QStringLiteral(ZOB_SEED_DB)));
+}
+
+TEST(SeedTool, FailsWithAMessageAndLeavesNoFile)
+{
+    QTemporaryDir dir;
+    QDir().mkpath(dir.filePath("seed"));
+    QFile f(dir.filePath("seed/tblGender.csv"));
+    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+    f.write("GenderID,Colour\n1,blue\n");
+    f.close();
+    QString errors;
+    EXPECT_NE(runSeedTool({dir.filePath("seed"), dir.filePath("out.sqlite")}, &errors), 0);
+    EXPECT_TRUE(errors.contains("tblGender.csv") && errors.contains("Colour")) << errors.toStdString();
+    EXPECT_FALSE(QFile::exists(dir.filePath("out.sqlite")));
+    EXPECT_NE(runSeedTool({dir.filePath("seed")}), 0);
+}
+#endif
