@@ -182,10 +182,10 @@ struct ColumnDef {
     QString defaultValue;  // empty: none
 };
 
-QList<ColumnDef> parseColumns(const char *spec)
+QList<ColumnDef> parseColumns(const char *text)
 {
     QList<ColumnDef> out;
-    const QStringList parts = QString::fromLatin1(spec).split(QLatin1Char(','), Qt::SkipEmptyParts);
+    const QStringList parts = QString::fromLatin1(text).split(QLatin1Char(','), Qt::SkipEmptyParts);
     for (const QString &raw : parts) {
         const QString part = raw.trimmed();
         const qsizetype colon = part.indexOf(QLatin1Char(':'));
