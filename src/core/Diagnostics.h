@@ -27,6 +27,8 @@ enum class TraceLayout {
 
 //! How a routine reports: its message form and name, and its trace point if it has one.
 struct RoutineInfo {
+    RoutineInfo(ErrForm f, QString name, QString trace = {}, TraceLayout l = TraceLayout::Tabbed)
+        : form(f), routine(std::move(name)), traceName(std::move(trace)), layout(l) {}
     ErrForm form = ErrForm::Shared;
     QString routine;          //!< the name the message shows
     QString traceName;        //!< the name in trace lines; empty for routines without a trace point

@@ -14,7 +14,7 @@ namespace {
 //   I  id or reference to one  INTEGER
 //   T  text, M memo            TEXT COLLATE NOCASE (text compares ignore case throughout the program)
 //   N  number                  REAL (numeric text such as '0.250' becomes 0.25 on insert)
-//   B  yes/no                  INTEGER 1/0
+//   B  yes/no                  BOOLEAN, stored 1/0
 //   D  date and time           DATETIME, stored as 'yyyy-MM-dd hh:mm:ss'
 // A column may carry "=default" after its kind: "DataSourceID:I=6".
 struct TableDef {
@@ -205,8 +205,9 @@ QString columnDdl(const ColumnDef &c)
     QString type;
     switch (c.kind.toLatin1()) {
     case 'K': type = QStringLiteral("INTEGER PRIMARY KEY AUTOINCREMENT"); break;
-    case 'I':
-    case 'B': type = QStringLiteral("INTEGER"); break;
+    case 'I': type = QStringLiteral("INTEGER"); break;
+    // BOOLEAN has numeric affinity (stored 1/0); the declared type lets recordsets read it as yes/no.
+    case 'B': type = QStringLiteral("BOOLEAN"); break;
     case 'T':
     case 'M': type = QStringLiteral("TEXT COLLATE NOCASE"); break;
     case 'N': type = QStringLiteral("REAL"); break;
@@ -237,6 +238,8 @@ QStringList schemaStatements()
         out.append(QStringLiteral("CREATE TABLE [%1] (%2)").arg(QLatin1String(t.name), cols.join(QStringLiteral(", "))));
     }
     out.append(QLatin1String(kReferenceView));
+    // A scenario is linked to a project once: a second link is a duplicate key.
+    out.append(QStringLiteral("CREATE UNIQUE INDEX jtblProjectScenario_Link ON jtblProjectScenario (ProjectID, ScenarioID)"));
     return out;
 }
 

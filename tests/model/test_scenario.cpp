@@ -79,6 +79,9 @@ TEST(Scenario, FirstSaveAsksForAFileAndWritesTheMarkerOnce)
 {
     Fixture f;
     f.sc().AddNew(QStringLiteral("Wildlife"));
+    // AddNew clears the type; the builder sets it when it loads, and the chooser's file type follows it.
+    EXPECT_EQ(f.sc().ScenarioType, QString());
+    f.sc().ScenarioType = QStringLiteral("Wildlife");
     f.t.chooser.next = {true, f.t.home(), QStringLiteral("mink.ZOB")};
     f.s.gSpeciesCommon = QStringLiteral("Mink");
     f.sc().SpeciesID = 7;
