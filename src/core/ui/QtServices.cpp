@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "QtServices.h"
 
+#include "QtWindowHost.h"
+#include "frmShowHelp.h"
+
 #include <QApplication>
 #include <QInputDialog>
 #include <QMessageBox>
@@ -71,4 +74,13 @@ void QtCursorService::setBusy(bool busy)
         QApplication::setOverrideCursor(Qt::WaitCursor);
     else
         QApplication::restoreOverrideCursor();
+}
+
+void QtHelpService::showTopic(int contextId)
+{
+    // A launcher still waiting for its timer is unloaded first, so that every request runs the load
+    // anew and shows the topic asked for.
+    m_host.unload(QStringLiteral("frmShowHelp"));
+    frmShowHelp::pl_helpKey = contextId;
+    m_host.load(QStringLiteral("frmShowHelp"));
 }

@@ -20,3 +20,14 @@ public:
 private:
     bool m_busy = false;
 };
+
+class QtWindowHost;
+
+//! Help by topic number: hands the number to frmShowHelp and loads it, which opens the viewer.
+class QtHelpService : public HelpService {
+public:
+    explicit QtHelpService(QtWindowHost &host) : m_host(host) {}
+    void showTopic(int contextId) override;
+private:
+    QtWindowHost &m_host;
+};

@@ -2,24 +2,165 @@
 #include "frmMDI.h"
 
 #include "Diagnostics.h"
+#include "QtWindowHost.h"
 #include "Session.h"
+#include "Utilities.h"
+#include "ZobWindow.h"
 #include "clsProject.h"
 #include "clsScenario.h"
 
+#include <QAction>
+#include <QCloseEvent>
 #include <QCoreApplication>
 #include <QMdiArea>
+#include <QMenuBar>
 
-frmMDI::frmMDI(Session &session, QWidget *parent) : QMainWindow(parent), m_session(session), m_mdi(new QMdiArea(this))
+frmMDI::frmMDI(Session &session, QtWindowHost &host, QWidget *parent)
+    : QMainWindow(parent), m_session(session), m_host(host), m_mdi(new QMdiArea(this))
 {
     setObjectName(QStringLiteral("frmMDI"));
     m_mdi->setObjectName(QStringLiteral("mdiArea"));
     setCentralWidget(m_mdi);
     resize(1024, 720);
+    m_host.setMdiArea(m_mdi);
+    m_host.setMainWindow(this);
+    buildMenu();
+    connect(&m_host, &QtWindowHost::windowLoaded, this, &frmMDI::updateProjectItems);
+    connect(&m_host, &QtWindowHost::windowUnloaded, this, &frmMDI::updateProjectItems);
 }
 
 QString frmMDI::captionText()
 {
     return QStringLiteral("Zobrel (Version: %1)").arg(QCoreApplication::applicationVersion());
+}
+
+QAction *frmMDI::item(QMenu *menu, const QString &name, const QString &caption)
+{
+    QAction *a = menu->addAction(caption);
+    a->setObjectName(name);
+    return a;
+}
+
+QAction *frmMDI::menuItem(const QString &name) const
+{
+    return findChild<QAction *>(name);
+}
+
+void frmMDI::buildMenu()
+{
+    auto show = [this](const QString &name, bool modal = false) { return [this, name, modal] { m_host.show(name, modal); }; };
+
+    QMenu *file = menuBar()->addMenu(QStringLiteral("&File"));
+    file->setObjectName(QStringLiteral("mnuFile"));
+    connect(item(file, QStringLiteral("mnuIniSetup"), QStringLiteral("&Setup...")), &QAction::triggered, this,
+            show(QStringLiteral("frmSetup")));
+    file->addSeparator()->setObjectName(QStringLiteral("mnuBar10"));
+    // Exit ends the process at once: no window is asked anything.
+    connect(item(file, QStringLiteral("mnuExit"), QStringLiteral("E&xit")), &QAction::triggered, this,
+            [] { QCoreApplication::exit(0); });
+
+    QMenu *project = menuBar()->addMenu(QStringLiteral("Project"));
+    project->setObjectName(QStringLiteral("mnuProjectMenu"));
+    QAction *title = project->menuAction();
+    title->setObjectName(QStringLiteral("mnuProject"));
+    connect(project, &QMenu::aboutToShow, this, show(QStringLiteral("frmProjectList")));
+    connect(title, &QAction::triggered, this, show(QStringLiteral("frmProjectList")));
+    connect(item(project, arrayName(QStringLiteral("mnuProjectOptions"), 0), QStringLiteral("New...")),
+            &QAction::triggered, this, [this] {
+                guarded(m_session, {ErrForm::Shared, QStringLiteral("mnuProjectOptions_Click")}, [&] { m_session.gProject->AddNew(); });
+            });
+    connect(item(project, arrayName(QStringLiteral("mnuProjectOptions"), 1), QStringLiteral("Open...")),
+            &QAction::triggered, this, [this] {
+                guarded(m_session, {ErrForm::Shared, QStringLiteral("mnuProjectOptions_Click")}, [&] {
+                    m_session.gProject->Clear();
+                    m_session.gProject->OpenFile();
+                });
+            });
+    connect(item(project, arrayName(QStringLiteral("mnuProjectOptions"), 2), QStringLiteral("Close")),
+            &QAction::triggered, this, [] { QCoreApplication::exit(0); });
+    project->addSeparator()->setObjectName(arrayName(QStringLiteral("mnuProjectOptions"), 3));
+    connect(item(project, arrayName(QStringLiteral("mnuProjectOptions"), 4), QStringLiteral("&Save")),
+            &QAction::triggered, this, [this] {
+                guarded(m_session, {ErrForm::Shared, QStringLiteral("mnuProjectOptions_Click")}, [&] {
+                    m_session.gProject->Save();
+                    m_session.gProject->SetCmd(true);
+                });
+            });
+    item(project, arrayName(QStringLiteral("mnuProjectOptions"), 5), QStringLiteral("Save &As..."));  // no action
+
+    QMenu *entry = menuBar()->addMenu(QStringLiteral("&Data Entry"));
+    entry->setObjectName(QStringLiteral("mnuDataEntry"));
+    connect(item(entry, QStringLiteral("mnuReferences"), QStringLiteral("References")), &QAction::triggered, this,
+            show(QStringLiteral("frmSelect_Reference")));
+    connect(item(entry, QStringLiteral("mnuWldDE"), QStringLiteral("Wildlife Data Entry")), &QAction::triggered, this,
+            [this] {
+                if (ZobWindow *w = m_host.form(QStringLiteral("frmSelect_Species"))) {
+                    w->setProperty("Entry", QStringLiteral("Menu"));
+                    w->PuS_SetRecord(0, QStringLiteral("ScenarioID"), QStringLiteral("tblWildlife"), QStringLiteral("Write"));
+                }
+                m_host.show(QStringLiteral("frmSelect_Species"));
+            });
+    entry->addSeparator()->setObjectName(QStringLiteral("mnuBar111"));
+    QMenu *generic = entry->addMenu(QStringLiteral("Generic Data Entry"));
+    generic->menuAction()->setObjectName(QStringLiteral("mnuWLDGenericData"));
+    const struct { const char *name, *caption, *window, *key, *table; } pickers[] = {
+        {"mnuIntakeModel", "Allometric Equations", "frmSelect_IntakeModel", "IntakeModelID", "tblIntakeModel"},
+        {"mnuAE", "Assimilation Efficiency", "frmSelect_AE", "AEID", "tblAE"},
+        {"mnuGE", "Gross Energy", "frmSelect_GE", "GrossEnergyID", "tblGrossEnergy"},
+        {"mnuWaterConversion", "Moisture", "frmSelect_WaterConversion", "WaterConversionID", "tblWaterConversion"},
+        {"mnuSoilIngestion", "Soil Ingestion", "frmSelect_SoilIngestion", "SoilIngestionID", "tblSoilIngestion"},
+        {"mnuTrophicLevel", "Trophic Level", "frmSelect_TrophicLevel", "TrophicLevelID", "tblTrophicLevel"},
+    };
+    for (const auto &p : pickers) {
+        const QString window = QString::fromLatin1(p.window), key = QString::fromLatin1(p.key),
+                      table = QString::fromLatin1(p.table);
+        connect(item(generic, QString::fromLatin1(p.name), QString::fromLatin1(p.caption)), &QAction::triggered, this,
+                [this, window, key, table] { openPicker(window, key, table); });
+    }
+    connect(item(entry, QStringLiteral("mnuLifeStage"), QStringLiteral("Life History")), &QAction::triggered, this,
+            [this] {
+                if (ZobWindow *w = m_host.form(QStringLiteral("frmSearch_LifeHistory")))
+                    w->PuS_SetRecord(0, QStringLiteral("NA"), QStringLiteral("NA"), QString());
+                m_host.show(QStringLiteral("frmSearch_LifeHistory"));
+            });
+
+    QMenu *help = menuBar()->addMenu(QStringLiteral("&Help"));
+    help->setObjectName(QStringLiteral("mnuHelp"));
+    connect(item(help, QStringLiteral("mnuContents"), QStringLiteral("&Contents")), &QAction::triggered, this, [this] {
+        if (m_session.help)
+            m_session.help->showTopic(1501);
+    });
+    help->addSeparator()->setObjectName(QStringLiteral("mnuSep3"));
+    connect(item(help, QStringLiteral("mnuAboutTORM"), QStringLiteral("&About ...")), &QAction::triggered, this,
+            show(QStringLiteral("frmSplash"), true));
+
+    updateProjectItems();
+}
+
+void frmMDI::openPicker(const QString &window, const QString &keyField, const QString &table)
+{
+    // Browse-and-edit use of a picker: not a selection, record 0, mode "Write".
+    if (ZobWindow *w = m_host.form(window)) {
+        w->setProperty("IsSelection", false);
+        w->PuS_SetRecord(0, keyField, table, QStringLiteral("Write"));
+    }
+    m_host.show(window);
+}
+
+void frmMDI::updateProjectItems()
+{
+    const bool open = m_host.isLoaded(QStringLiteral("frmProject"));
+    for (int i : {2, 4, 5})
+        if (QAction *a = menuItem(arrayName(QStringLiteral("mnuProjectOptions"), i)))
+            a->setEnabled(open);
+}
+
+void frmMDI::closeEvent(QCloseEvent *event)
+{
+    if (m_host.unloadAll())
+        event->accept();
+    else
+        event->ignore();
 }
 
 void frmMDI::Form_Load()
@@ -30,12 +171,11 @@ void frmMDI::Form_Load()
         m_session.gScenario = std::make_shared<clsScenario>(m_session);
         setWindowTitle(captionText());
         if (m_session.startUser()) {
-            if (m_session.windows)
-                m_session.windows->show(QStringLiteral("frmProjectList"));
+            m_host.show(QStringLiteral("frmProjectList"));
         } else {
+            m_host.load(QStringLiteral("frmSplash"));
             m_session.msgBox(Session::welcomeMessage(), QString(), MsgIcon::Information);
-            if (m_session.windows)
-                m_session.windows->show(QStringLiteral("frmSetup"));
+            m_host.show(QStringLiteral("frmSetup"));
         }
     });
 }

@@ -3,14 +3,16 @@
 
 #include <QMainWindow>
 
+class QAction;
 class QMdiArea;
+class QtWindowHost;
 class Session;
 
-//! The main window: menu, toolbar and the area in which the child windows live.
+//! The main window: menu and the area in which the child windows live.
 class frmMDI : public QMainWindow {
     Q_OBJECT
 public:
-    explicit frmMDI(Session &session, QWidget *parent = nullptr);
+    frmMDI(Session &session, QtWindowHost &host, QWidget *parent = nullptr);
 
     //! The load of the main window: the project and scenario objects, the caption, the user check,
     //! and the first window (project list for a known user; the welcome message and setup for a new one).
@@ -19,8 +21,20 @@ public:
     QMdiArea *mdiArea() const { return m_mdi; }
     //! "Zobrel (Version: <major>.<minor>.<revision>)".
     static QString captionText();
+    //! A menu item by its control name ("mnuExit", "mnuProjectOptions(4)"), null if none.
+    QAction *menuItem(const QString &name) const;
+
+protected:
+    //! Closing the main window unloads every loaded window in turn; one that refuses keeps it open.
+    void closeEvent(QCloseEvent *event) override;
 
 private:
+    void buildMenu();
+    void updateProjectItems();
+    void openPicker(const QString &window, const QString &keyField, const QString &table);
+    QAction *item(QMenu *menu, const QString &name, const QString &caption);
+
     Session &m_session;
+    QtWindowHost &m_host;
     QMdiArea *m_mdi;
 };

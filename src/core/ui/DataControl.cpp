@@ -1,0 +1,555 @@
+// SPDX-License-Identifier: MIT
+#include "DataControl.h"
+
+#include "Database.h"
+#include "Recordset.h"
+#include "Utilities.h"
+#include "VbError.h"
+#include "VbFormat.h"
+
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMetaMethod>
+#include <QMouseEvent>
+#include <QPlainTextEdit>
+#include <QTextEdit>
+#include <QToolButton>
+#include <cstdio>
+
+namespace {
+QToolButton *navButton(QWidget *parent, Qt::ArrowType arrow, const QString &name)
+{
+    auto *b = new QToolButton(parent);
+    b->setArrowType(arrow);
+    b->setObjectName(name);
+    b->setAutoRaise(true);
+    return b;
+}
+
+bool sameValue(const QVariant &a, const QVariant &b)
+{
+    const bool an = a.isNull() || (a.typeId() == QMetaType::QString && a.toString().isEmpty());
+    const bool bn = b.isNull() || (b.typeId() == QMetaType::QString && b.toString().isEmpty());
+    if (an || bn)
+        return an == bn;
+    return a.toString() == b.toString();
+}
+}  // namespace
+
+DataControl::DataControl(const QString &name, QWidget *parent)
+    : QWidget(parent), m_caption(new QLabel(this))
+{
+    setObjectName(name);
+    auto *row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(0);
+    m_first = navButton(this, Qt::UpArrow, QStringLiteral("First"));
+    m_prev = navButton(this, Qt::LeftArrow, QStringLiteral("Previous"));
+    m_next = navButton(this, Qt::RightArrow, QStringLiteral("Next"));
+    m_last = navButton(this, Qt::DownArrow, QStringLiteral("Last"));
+    m_caption->setAlignment(Qt::AlignCenter);
+    m_caption->setFrameShape(QFrame::StyledPanel);
+    row->addWidget(m_first);
+    row->addWidget(m_prev);
+    row->addWidget(m_caption, 1);
+    row->addWidget(m_next);
+    row->addWidget(m_last);
+    connect(m_first, &QToolButton::clicked, this, &DataControl::MoveFirst);
+    connect(m_prev, &QToolButton::clicked, this, &DataControl::MovePrevious);
+    connect(m_next, &QToolButton::clicked, this, &DataControl::MoveNext);
+    connect(m_last, &QToolButton::clicked, this, &DataControl::MoveLast);
+    setCaption(QStringLiteral("Record: 0 of 0"));
+}
+
+DataControl::~DataControl() = default;
+
+QString DataControl::caption() const
+{
+    return m_caption->text();
+}
+
+void DataControl::setCaption(const QString &text)
+{
+    m_caption->setText(text);
+}
+
+void DataControl::Refresh()
+{
+    leaveRow();
+    if (!m_db)
+        throw VbError(3024, QStringLiteral("Could not find file ''."));
+    auto rs = m_db->OpenRecordset(m_source, RecordsetType::Dynaset);
+    emit aboutToRefresh();
+    m_rs = std::move(rs);
+    readRows();
+    emit refreshed();
+    arrive();
+}
+
+void DataControl::readRows()
+{
+    m_fields = m_rs->fieldNames();
+    m_rows.clear();
+    const int n = m_rs->totalRows();
+    if (n == 0)
+        return;
+    // Reading to the last row makes the count the full count, as the grid and caption need it.
+    m_rs->MoveLast();
+    m_rows.reserve(n);
+    for (int r = 0; r < n; ++r) {
+        m_rs->setAbsolutePosition(r);
+        QVector<QVariant> values;
+        values.reserve(m_fields.size());
+        for (int c = 0; c < m_fields.size(); ++c)
+            values.push_back(m_rs->field(c));
+        m_rows.push_back(std::move(values));
+    }
+    m_rs->MoveFirst();
+}
+
+void DataControl::refreshRow(int row)
+{
+    if (!m_rs || row < 0 || row >= m_rows.size() || row >= m_rs->totalRows())
+        return;
+    const int keep = currentRow();
+    m_rs->setAbsolutePosition(row);
+    for (int c = 0; c < m_fields.size(); ++c)
+        m_rows[row][c] = m_rs->field(c);
+    if (keep >= 0)
+        m_rs->setAbsolutePosition(keep);
+    emit rowChanged(row);
+}
+
+int DataControl::currentRow() const
+{
+    if (!m_rs || m_rs->BOF() || m_rs->EOF_())
+        return -1;
+    return m_rs->AbsolutePosition();
+}
+
+int DataControl::fieldIndex(const QString &field) const
+{
+    for (int i = 0; i < m_fields.size(); ++i)
+        if (m_fields[i].compare(field, Qt::CaseInsensitive) == 0)
+            return i;
+    return -1;
+}
+
+QVariant DataControl::value(int row, int column) const
+{
+    if (row < 0 || row >= m_rows.size() || column < 0 || column >= m_fields.size())
+        return {};
+    return m_rows[row][column];
+}
+
+void DataControl::MoveFirst()
+{
+    if (!m_rs || m_rows.isEmpty())
+        return;
+    leaveRow();
+    m_rs->MoveFirst();
+    arrive();
+}
+
+void DataControl::MoveLast()
+{
+    if (!m_rs || m_rows.isEmpty())
+        return;
+    leaveRow();
+    m_rs->MoveLast();
+    arrive();
+}
+
+void DataControl::MoveNext()
+{
+    const int row = currentRow();
+    if (row >= 0 && row + 1 < m_rows.size())
+        moveTo(row + 1);
+}
+
+void DataControl::MovePrevious()
+{
+    const int row = currentRow();
+    if (row > 0)
+        moveTo(row - 1);
+}
+
+void DataControl::moveTo(int row)
+{
+    if (!m_rs || row < 0 || row >= m_rows.size() || row == currentRow())
+        return;
+    leaveRow();
+    m_rs->setAbsolutePosition(row);
+    arrive();
+}
+
+void DataControl::arrive()
+{
+    showRow();
+    SetRecordPosition(*this);
+    const int row = currentRow();
+    m_first->setEnabled(row > 0);
+    m_prev->setEnabled(row > 0);
+    m_next->setEnabled(row >= 0 && row + 1 < m_rows.size());
+    m_last->setEnabled(row >= 0 && row + 1 < m_rows.size());
+    emit Reposition();
+}
+
+void DataControl::showRow()
+{
+    const int row = currentRow();
+    for (Binding &b : m_bindings) {
+        if (!b.widget)
+            continue;
+        setWidgetValue(b.widget, row >= 0 ? value(row, b.field) : QVariant());
+        b.shown = widgetValue(b.widget);
+    }
+}
+
+void DataControl::UpdateControls()
+{
+    showRow();
+}
+
+void DataControl::UpdateRecord()
+{
+    leaveRow();
+}
+
+void DataControl::leaveRow()
+{
+    const int row = currentRow();
+    if (row < 0)
+        return;
+    QVector<Binding *> changed;
+    for (Binding &b : m_bindings)
+        if (b.widget && !qobject_cast<QLabel *>(b.widget) && !sameValue(widgetValue(b.widget), b.shown))
+            changed.push_back(&b);
+    if (changed.isEmpty())
+        return;
+    try {
+        m_rs->Edit();
+        for (Binding *b : changed)
+            m_rs->setField(b->field, widgetValue(b->widget));
+        m_rs->Update();
+        for (Binding *b : changed)
+            b->shown = widgetValue(b->widget);
+        refreshRow(row);
+    } catch (const VbError &e) {
+        if (m_rs->editMode() != Recordset::EditMode::None)
+            m_rs->CancelUpdate();
+        if (isSignalConnected(QMetaMethod::fromSignal(&DataControl::Error)))
+            emit Error(e.number(), e.description());
+        else
+            std::fprintf(stderr, "%s: %d %s\n", qPrintable(objectName()), e.number(), qPrintable(e.description()));
+    }
+}
+
+QVariant DataControl::widgetValue(const QWidget *w)
+{
+    QString text;
+    if (auto *e = qobject_cast<const QLineEdit *>(w))
+        text = e->text();
+    else if (auto *t = qobject_cast<const QTextEdit *>(w))
+        text = t->toPlainText();
+    else if (auto *p = qobject_cast<const QPlainTextEdit *>(w))
+        text = p->toPlainText();
+    else if (auto *l = qobject_cast<const QLabel *>(w))
+        text = l->text();
+    else if (auto *c = qobject_cast<const QComboBox *>(w)) {
+        if (c->currentIndex() >= 0) {
+            const QVariant data = c->currentData();
+            return data.isValid() ? data : QVariant(c->currentText());
+        }
+        text = c->isEditable() ? c->currentText() : QString();
+    }
+    return text.isEmpty() ? QVariant() : QVariant(text);
+}
+
+void DataControl::setWidgetValue(QWidget *w, const QVariant &v)
+{
+    QString text;
+    if (!v.isNull()) {
+        try {
+            text = vb::CStr(v);
+        } catch (const VbError &) {
+            text = v.toString();
+        }
+    }
+    if (auto *e = qobject_cast<QLineEdit *>(w))
+        e->setText(text);
+    else if (auto *t = qobject_cast<QTextEdit *>(w))
+        t->setPlainText(text);
+    else if (auto *p = qobject_cast<QPlainTextEdit *>(w))
+        p->setPlainText(text);
+    else if (auto *l = qobject_cast<QLabel *>(w))
+        l->setText(text);
+    else if (auto *c = qobject_cast<QComboBox *>(w))
+        selectComboValue(c, v);
+}
+
+void DataControl::bindText(QWidget *box, const QString &field)
+{
+    m_bindings.push_back({box, field, {}});
+}
+
+void DataControl::bindCombo(QComboBox *combo, const QString &field)
+{
+    m_bindings.push_back({combo, field, {}});
+}
+
+void DataControl::bindLabel(QLabel *label, const QString &field)
+{
+    m_bindings.push_back({label, field, {}});
+}
+
+void fillCombo(QComboBox *combo, Database &db, const QString &jetSql, const QString &listField,
+               const QString &boundColumn)
+{
+    auto rs = db.OpenRecordset(jetSql, RecordsetType::Snapshot);
+    const QSignalBlocker block(combo);
+    combo->clear();
+    while (!rs->EOF_()) {
+        const QVariant shown = rs->field(listField);
+        combo->addItem(shown.isNull() ? QString() : shown.toString(), rs->field(boundColumn));
+        rs->MoveNext();
+    }
+    combo->setCurrentIndex(-1);
+}
+
+void selectComboValue(QComboBox *combo, const QVariant &value)
+{
+    int found = -1;
+    if (!value.isNull()) {
+        const QString wanted = value.toString();
+        for (int i = 0; i < combo->count() && found < 0; ++i) {
+            const QVariant data = combo->itemData(i);
+            const QString have = data.isValid() ? data.toString() : combo->itemText(i);
+            if (have.compare(wanted, Qt::CaseInsensitive) == 0)
+                found = i;
+        }
+    }
+    combo->setCurrentIndex(found);
+    if (found < 0 && combo->isEditable())
+        combo->setEditText(QString());
+}
+
+// --- RecordsetModel ---
+
+RecordsetModel::RecordsetModel(DataControl *dc, QObject *parent) : QAbstractTableModel(parent), m_dc(dc)
+{
+    connect(dc, &DataControl::aboutToRefresh, this, [this] { beginResetModel(); });
+    connect(dc, &DataControl::refreshed, this, [this] { endResetModel(); });
+    connect(dc, &DataControl::rowChanged, this, [this](int row) {
+        emit dataChanged(index(row, 0), index(row, columnCount() - 1));
+    });
+}
+
+int RecordsetModel::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() || !m_dc ? 0 : m_dc->rowCount();
+}
+
+int RecordsetModel::columnCount(const QModelIndex &parent) const
+{
+    return parent.isValid() || !m_dc ? 0 : m_dc->columnCount();
+}
+
+QString RecordsetModel::text(int row, int column) const
+{
+    if (!m_dc)
+        return {};
+    const QVariant v = m_dc->value(row, column);
+    if (v.isNull())
+        return {};
+    const QString pattern = m_formats.value(m_dc->fields().value(column).toLower());
+    try {
+        return pattern.isEmpty() ? vb::CStr(v) : vb::vbFormat(v, pattern);
+    } catch (const VbError &) {
+        return v.toString();
+    }
+}
+
+QVariant RecordsetModel::data(const QModelIndex &index, int role) const
+{
+    if (!index.isValid() || !m_dc)
+        return {};
+    switch (role) {
+    case Qt::DisplayRole:
+        return text(index.row(), index.column());
+    case Qt::EditRole:
+        return m_dc->value(index.row(), index.column());
+    case Qt::ForegroundRole:
+        if (m_styler) {
+            const QColor c = m_styler(index.row()).fore;
+            if (c.isValid())
+                return c;
+        }
+        return {};
+    case Qt::BackgroundRole:
+        if (m_styler) {
+            const QColor c = m_styler(index.row()).back;
+            if (c.isValid())
+                return c;
+        }
+        return {};
+    default:
+        return {};
+    }
+}
+
+QVariant RecordsetModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (role != Qt::DisplayRole || !m_dc)
+        return {};
+    if (orientation == Qt::Vertical)
+        return {};
+    const QString field = m_dc->fields().value(section);
+    return m_captions.value(field.toLower(), field);
+}
+
+// --- DataGrid ---
+
+DataGrid::DataGrid(const QString &name, QWidget *parent) : QTableView(parent)
+{
+    setObjectName(name);
+    setSelectionBehavior(QAbstractItemView::SelectRows);
+    setSelectionMode(QAbstractItemView::SingleSelection);
+    setEditTriggers(QAbstractItemView::NoEditTriggers);
+    setAlternatingRowColors(false);
+    verticalHeader()->setDefaultSectionSize(20);
+    horizontalHeader()->setSectionsClickable(true);
+    connect(horizontalHeader(), &QHeaderView::sectionClicked, this, &DataGrid::HeadClick);
+}
+
+void DataGrid::setDataControl(DataControl *dc)
+{
+    m_model = new RecordsetModel(dc, this);
+    setModel(m_model);
+    connect(m_model, &QAbstractItemModel::modelReset, this, [this] { applyHidden(); });
+    connect(selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            [this](const QModelIndex &current, const QModelIndex &previous) {
+                if (m_syncing || !current.isValid())
+                    return;
+                m_syncing = true;
+                if (DataControl *d = dataControl())
+                    d->moveTo(current.row());
+                m_syncing = false;
+                emit RowColChange(previous.isValid() ? previous.row() : -1, previous.isValid() ? previous.column() : -1);
+            });
+    connect(dc, &DataControl::Reposition, this, [this] {
+        if (m_syncing)
+            return;
+        DataControl *d = dataControl();
+        const int row = d ? d->currentRow() : -1;
+        m_syncing = true;
+        if (row >= 0) {
+            const int col = std::max(0, shownColumn(0));
+            selectionModel()->setCurrentIndex(m_model->index(row, col),
+                                              QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+        } else {
+            selectionModel()->clear();
+        }
+        m_syncing = false;
+    });
+    applyHidden();
+}
+
+void DataGrid::setColumnCaption(const QString &field, const QString &caption)
+{
+    if (m_model) {
+        m_model->setCaption(field, caption);
+        emit m_model->headerDataChanged(Qt::Horizontal, 0, std::max(0, m_model->columnCount() - 1));
+    }
+}
+
+void DataGrid::setColumnFormat(const QString &field, const QString &pattern)
+{
+    if (m_model)
+        m_model->setFormat(field, pattern);
+    viewport()->update();
+}
+
+void DataGrid::setColumnHidden(const QString &field, bool hidden)
+{
+    m_hidden.removeAll(field.toLower());
+    if (hidden)
+        m_hidden.append(field.toLower());
+    applyHidden();
+}
+
+void DataGrid::applyHidden()
+{
+    DataControl *d = dataControl();
+    if (!d)
+        return;
+    for (int c = 0; c < d->columnCount(); ++c)
+        QTableView::setColumnHidden(c, m_hidden.contains(d->fields()[c].toLower()));
+}
+
+int DataGrid::shownColumn(int n) const
+{
+    if (!m_model)
+        return -1;
+    int seen = 0;
+    for (int v = 0; v < horizontalHeader()->count(); ++v) {
+        const int logical = horizontalHeader()->logicalIndex(v);
+        if (isColumnHidden(logical))
+            continue;
+        if (seen++ == n)
+            return logical;
+    }
+    return -1;
+}
+
+QStringList DataGrid::columnCaptions() const
+{
+    QStringList out;
+    for (int n = 0, c = shownColumn(0); c >= 0; c = shownColumn(++n))
+        out << m_model->headerData(c, Qt::Horizontal).toString();
+    return out;
+}
+
+QStringList DataGrid::rowTexts(int row) const
+{
+    QStringList out;
+    for (int n = 0, c = shownColumn(0); c >= 0; c = shownColumn(++n))
+        out << m_model->text(row, c);
+    return out;
+}
+
+QString DataGrid::cellText(int row, int shownCol) const
+{
+    const int c = shownColumn(shownCol);
+    return c >= 0 && m_model ? m_model->text(row, c) : QString();
+}
+
+int DataGrid::currentRowIndex() const
+{
+    DataControl *d = dataControl();
+    return d ? d->currentRow() : -1;
+}
+
+void DataGrid::selectRowIndex(int row)
+{
+    if (!m_model || row < 0 || row >= m_model->rowCount())
+        return;
+    const int col = std::max(0, shownColumn(0));
+    selectionModel()->setCurrentIndex(m_model->index(row, col),
+                                      QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+}
+
+void DataGrid::dblClickRow(int row)
+{
+    selectRowIndex(row);
+    emit DblClick();
+}
+
+void DataGrid::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    QTableView::mouseDoubleClickEvent(event);
+    emit DblClick();
+}

@@ -1,0 +1,195 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QAbstractTableModel>
+#include <QColor>
+#include <QHash>
+#include <QPointer>
+#include <QTableView>
+#include <QVariant>
+#include <QVector>
+#include <QWidget>
+#include <functional>
+#include <memory>
+
+class Database;
+class QComboBox;
+class QLabel;
+class QToolButton;
+class Recordset;
+
+//! A data control: a record source (Jet SQL) on a database, its recordset and current row, a caption
+//! "Record: n of m", a Reposition signal, and the boxes bound to its columns. Refresh reads every row
+//! (so the count is known at once) and keeps a copy of them for grids. The bound columns of a row are
+//! written back when the row is left: on a move, on Refresh, or on UpdateRecord.
+class DataControl : public QWidget {
+    Q_OBJECT
+public:
+    explicit DataControl(const QString &name, QWidget *parent = nullptr);
+    ~DataControl() override;
+
+    void setDatabase(std::shared_ptr<Database> db) { m_db = std::move(db); }
+    const std::shared_ptr<Database> &database() const { return m_db; }
+    void setRecordSource(const QString &jetSql) { m_source = jetSql; }
+    const QString &recordSource() const { return m_source; }
+
+    //! Writes back the row being left, re-runs the record source, goes to the first row.
+    //! Errors (a bad statement) throw VbError to the caller's handler.
+    void Refresh();
+    //! The recordset, null before the first Refresh.
+    Recordset *recordset() const { return m_rs.get(); }
+
+    // Navigation; each leaves the row (writing back) and signals Reposition.
+    void MoveFirst();
+    void MoveLast();
+    void MoveNext();
+    void MovePrevious();
+    //! Goes to row (0-based); out of range does nothing.
+    void moveTo(int row);
+    //! The current row (0-based), -1 when there is none.
+    int currentRow() const;
+
+    //! Writes the bound boxes of the current row to the database now (legacy UpdateRecord).
+    void UpdateRecord();
+    //! Shows the current row in the bound boxes again, dropping what was typed.
+    void UpdateControls();
+    //! Reads one row again from the recordset into the copy the grids show.
+    void refreshRow(int row);
+
+    // The rows as read at the last Refresh (kept up to date by the write-back).
+    int rowCount() const { return static_cast<int>(m_rows.size()); }
+    int columnCount() const { return static_cast<int>(m_fields.size()); }
+    const QStringList &fields() const { return m_fields; }
+    int fieldIndex(const QString &field) const;
+    QVariant value(int row, int column) const;
+    QVariant value(int row, const QString &field) const { return value(row, fieldIndex(field)); }
+
+    //! Binds a text box (QLineEdit, QTextEdit, QPlainTextEdit) to a column; null shows as empty, and
+    //! an emptied box writes null.
+    void bindText(QWidget *box, const QString &field);
+    //! Binds a combo to a column: the item whose data equals the column's value is shown; the data
+    //! of the chosen item is written back (null for none).
+    void bindCombo(QComboBox *combo, const QString &field);
+    //! Binds a label (read-only display).
+    void bindLabel(QLabel *label, const QString &field);
+
+    //! The navigator's caption.
+    QString caption() const;
+    void setCaption(const QString &text);
+
+signals:
+    //! The current row changed (or the rows were read again).
+    void Reposition();
+    //! The rows are about to be read again / were read again.
+    void aboutToRefresh();
+    void refreshed();
+    //! A row's values in the copy changed (after a write-back).
+    void rowChanged(int row);
+    //! A write-back failed; without a receiver the failure is written to standard error.
+    void Error(int number, const QString &description);
+
+private:
+    struct Binding {
+        QPointer<QWidget> widget;
+        QString field;
+        QVariant shown;   // the value put into the box, to tell what the user changed
+    };
+    void leaveRow();
+    void arrive();
+    void showRow();
+    static QVariant widgetValue(const QWidget *w);
+    static void setWidgetValue(QWidget *w, const QVariant &v);
+    void readRows();
+
+    std::shared_ptr<Database> m_db;
+    QString m_source;
+    std::unique_ptr<Recordset> m_rs;
+    QStringList m_fields;
+    QVector<QVector<QVariant>> m_rows;
+    QVector<Binding> m_bindings;
+    QLabel *m_caption;
+    QToolButton *m_first, *m_prev, *m_next, *m_last;
+};
+
+//! Fills a combo from a statement: the shown column becomes the text, the bound column the data.
+void fillCombo(QComboBox *combo, Database &db, const QString &jetSql, const QString &listField,
+               const QString &boundColumn);
+//! Shows the item whose data equals value (text compare without case); -1 and an empty box for none.
+void selectComboValue(QComboBox *combo, const QVariant &value);
+
+//! Colours of a grid row.
+struct RowStyle {
+    QColor fore;
+    QColor back;
+};
+
+//! The rows of a data control as a table for grids: column captions, format patterns, row styles.
+class RecordsetModel : public QAbstractTableModel {
+    Q_OBJECT
+public:
+    explicit RecordsetModel(DataControl *dc, QObject *parent = nullptr);
+
+    int rowCount(const QModelIndex &parent = {}) const override;
+    int columnCount(const QModelIndex &parent = {}) const override;
+    QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
+
+    void setCaption(const QString &field, const QString &caption) { m_captions.insert(field.toLower(), caption); }
+    void setFormat(const QString &field, const QString &pattern) { m_formats.insert(field.toLower(), pattern); }
+    void setRowStyler(std::function<RowStyle(int row)> styler) { m_styler = std::move(styler); }
+    //! The text shown in a cell.
+    QString text(int row, int column) const;
+    DataControl *dataControl() const { return m_dc; }
+
+private:
+    QPointer<DataControl> m_dc;
+    QHash<QString, QString> m_captions;
+    QHash<QString, QString> m_formats;
+    std::function<RowStyle(int)> m_styler;
+};
+
+//! A grid bound to a data control (ssGrd...). Selecting a row moves the data control, and a move of the
+//! data control selects the row. Head click, row change, double click and key down are signals.
+class DataGrid : public QTableView {
+    Q_OBJECT
+public:
+    explicit DataGrid(const QString &name, QWidget *parent = nullptr);
+
+    void setDataControl(DataControl *dc);
+    DataControl *dataControl() const { return m_model ? m_model->dataControl() : nullptr; }
+    RecordsetModel *recordsetModel() const { return m_model; }
+
+    void setColumnCaption(const QString &field, const QString &caption);
+    void setColumnFormat(const QString &field, const QString &pattern);
+    void setColumnHidden(const QString &field, bool hidden);
+    //! The hidden columns by field name survive a Refresh.
+    bool isFieldHidden(const QString &field) const { return m_hidden.contains(field.toLower()); }
+
+    //! The captions of the shown columns, in order, and the texts of a row's shown cells.
+    QStringList columnCaptions() const;
+    QStringList rowTexts(int row) const;
+    QString cellText(int row, int shownColumn) const;
+    //! The logical column of the n-th shown column.
+    int shownColumn(int n) const;
+
+    int currentRowIndex() const;
+    void selectRowIndex(int row);
+    //! What a click on a column head or a double click on a row does, for scripts and tests.
+    void headClick(int column) { emit HeadClick(column); }
+    void dblClickRow(int row);
+
+signals:
+    void HeadClick(int column);
+    void DblClick();
+    void RowColChange(int lastRow, int lastColumn);
+
+protected:
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
+
+private:
+    void applyHidden();
+    RecordsetModel *m_model = nullptr;
+    QStringList m_hidden;
+    bool m_syncing = false;
+    int m_lastRow = -1;
+};

@@ -1,0 +1,240 @@
+// SPDX-License-Identifier: MIT
+#include "Utilities.h"
+
+#include "DataControl.h"
+#include "Diagnostics.h"
+#include "Recordset.h"
+#include "Session.h"
+#include "VbError.h"
+
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QFrame>
+#include <QGroupBox>
+#include <QHash>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QTextEdit>
+
+QColor legacyColor(qint32 bgr)
+{
+    const quint32 v = static_cast<quint32>(bgr);
+    return QColor(static_cast<int>(v & 0xFF), static_cast<int>((v >> 8) & 0xFF), static_cast<int>((v >> 16) & 0xFF));
+}
+
+qint32 toLegacyColor(const QColor &color)
+{
+    return static_cast<qint32>(static_cast<quint32>(color.red()) | (static_cast<quint32>(color.green()) << 8)
+                               | (static_cast<quint32>(color.blue()) << 16));
+}
+
+void setForeColor(QWidget *widget, const QColor &color)
+{
+    if (!widget)
+        return;
+    QPalette p = widget->palette();
+    for (auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        p.setColor(role, color);
+    widget->setPalette(p);
+}
+
+QColor foreColor(const QWidget *widget)
+{
+    if (qobject_cast<const QLineEdit *>(widget) || qobject_cast<const QComboBox *>(widget)
+        || qobject_cast<const QTextEdit *>(widget) || qobject_cast<const QPlainTextEdit *>(widget))
+        return widget->palette().color(QPalette::Text);
+    if (qobject_cast<const QAbstractButton *>(widget))
+        return widget->palette().color(QPalette::ButtonText);
+    return widget->palette().color(QPalette::WindowText);
+}
+
+namespace {
+const QHash<int, int> &vbToQt()
+{
+    static const QHash<int, int> map = [] {
+        QHash<int, int> m{{8, Qt::Key_Backspace}, {9, Qt::Key_Tab},       {13, Qt::Key_Return}, {16, Qt::Key_Shift},
+                          {17, Qt::Key_Control},  {18, Qt::Key_Alt},      {27, Qt::Key_Escape}, {32, Qt::Key_Space},
+                          {33, Qt::Key_PageUp},   {34, Qt::Key_PageDown}, {35, Qt::Key_End},    {36, Qt::Key_Home},
+                          {37, Qt::Key_Left},     {38, Qt::Key_Up},       {39, Qt::Key_Right},  {40, Qt::Key_Down},
+                          {45, Qt::Key_Insert},   {46, Qt::Key_Delete}};
+        for (int c = 48; c <= 57; ++c)
+            m.insert(c, Qt::Key_0 + (c - 48));
+        for (int c = 65; c <= 90; ++c)
+            m.insert(c, Qt::Key_A + (c - 65));
+        for (int c = 112; c <= 123; ++c)
+            m.insert(c, Qt::Key_F1 + (c - 112));
+        return m;
+    }();
+    return map;
+}
+
+//! Swallows the input that would change a locked combo.
+class LockFilter : public QObject {
+public:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (!watched->property("locked").toBool())
+            return false;
+        switch (event->type()) {
+        case QEvent::MouseButtonPress:
+        case QEvent::MouseButtonDblClick:
+        case QEvent::Wheel:
+            return true;
+        case QEvent::KeyPress: {
+            const int key = static_cast<QKeyEvent *>(event)->key();
+            return key != Qt::Key_Tab && key != Qt::Key_Backtab;
+        }
+        default:
+            return false;
+        }
+    }
+};
+}  // namespace
+
+int vbKeyFromQt(int qtKey)
+{
+    if (qtKey == Qt::Key_Enter)
+        return 13;
+    return vbToQt().key(qtKey, 0);
+}
+
+int qtKeyFromVb(int vbKey)
+{
+    return vbToQt().value(vbKey, 0);
+}
+
+void setLocked(QWidget *control, bool locked)
+{
+    if (auto *edit = qobject_cast<QLineEdit *>(control)) {
+        edit->setReadOnly(locked);
+        edit->setFrame(!locked);
+    } else if (auto *text = qobject_cast<QTextEdit *>(control)) {
+        text->setReadOnly(locked);
+        text->setFrameShape(locked ? QFrame::NoFrame : QFrame::StyledPanel);
+    } else if (auto *plain = qobject_cast<QPlainTextEdit *>(control)) {
+        plain->setReadOnly(locked);
+        plain->setFrameShape(locked ? QFrame::NoFrame : QFrame::StyledPanel);
+    } else if (auto *combo = qobject_cast<QComboBox *>(control)) {
+        static LockFilter filter;
+        combo->removeEventFilter(&filter);
+        combo->installEventFilter(&filter);
+        if (combo->lineEdit())
+            combo->lineEdit()->setReadOnly(locked);
+        combo->setFrame(!locked);
+    }
+    if (control)
+        control->setProperty("locked", locked);
+}
+
+bool isLocked(const QWidget *control)
+{
+    if (auto *edit = qobject_cast<const QLineEdit *>(control))
+        return edit->isReadOnly();
+    if (auto *text = qobject_cast<const QTextEdit *>(control))
+        return text->isReadOnly();
+    if (auto *plain = qobject_cast<const QPlainTextEdit *>(control))
+        return plain->isReadOnly();
+    return control && control->property("locked").toBool();
+}
+
+void SetRecordPosition(DataControl &dc)
+{
+    Recordset *rs = dc.recordset();
+    const int count = rs ? rs->RecordCount() : 0;
+    if (count < 1)
+        dc.setCaption(QStringLiteral("Record: 0 of 0"));
+    else
+        dc.setCaption(QStringLiteral("Record: %1 of %2").arg(rs->AbsolutePosition() + 1).arg(count));
+}
+
+qint16 GetOptionIndex(const QVector<QAbstractButton *> &options)
+{
+    for (int i = 0; i < options.size(); ++i) {
+        if (options[i] && options[i]->isChecked()) {
+            // The index of a control array element is the number in its name; a plain list counts.
+            const QString name = options[i]->objectName();
+            const int open = name.lastIndexOf(QLatin1Char('('));
+            bool ok = false;
+            const int index = open >= 0 ? name.mid(open + 1, name.size() - open - 2).toInt(&ok) : -1;
+            return static_cast<qint16>(ok ? index : i);
+        }
+    }
+    return -1;
+}
+
+void SetCmdControls(QWidget *window, qint16 mode)
+{
+    const bool first = mode == 1;
+    for (int i : {0, 3, 4, 6})
+        if (auto *b = arrayItem<QWidget>(window, QStringLiteral("cmdControl"), i))
+            b->setEnabled(first);
+    for (int i : {1, 2})
+        if (auto *b = arrayItem<QWidget>(window, QStringLiteral("cmdControl"), i))
+            b->setEnabled(!first);
+    if (auto *frame = window->findChild<QWidget *>(QStringLiteral("fraMain")))
+        frame->setEnabled(!first);
+}
+
+void SetControlInfo(Session &s, QWidget *window, const QString &verb, bool flag)
+{
+    try {
+        const auto controls = window->findChildren<QWidget *>();
+        for (QWidget *c : controls) {
+            const QString prefix = c->objectName().left(3);
+            if (prefix == QLatin1String("fra")) {
+                continue;  // frames accept "frames" and everything else alike: nothing happens
+            } else if (prefix == QLatin1String("txt")) {
+                if (verb == QLatin1String("clear")) {
+                    if (auto *e = qobject_cast<QLineEdit *>(c))
+                        e->clear();
+                    else if (auto *t = qobject_cast<QTextEdit *>(c))
+                        t->clear();
+                    else if (auto *p = qobject_cast<QPlainTextEdit *>(c))
+                        p->clear();
+                } else if (verb == QLatin1String("lock")) {
+                    setLocked(c, flag);
+                } else if (verb == QLatin1String("enable")) {
+                    c->setEnabled(flag);
+                }
+            } else if (prefix == QLatin1String("cbo")) {
+                if (verb == QLatin1String("clear")) {
+                    if (auto *cb = qobject_cast<QComboBox *>(c)) {
+                        cb->setCurrentIndex(-1);
+                        if (cb->isEditable())
+                            cb->setEditText(QString());
+                    }
+                } else if (verb == QLatin1String("lock")) {
+                    setLocked(c, flag);
+                } else if (verb == QLatin1String("enabled")) {
+                    // The combo has no property of that name: the pass over the controls ends here.
+                    throw VbError(438, QStringLiteral("Object doesn't support this property or method"));
+                }
+            }
+        }
+    } catch (const VbError &e) {
+        s.PuS_ErrorMessage(e.description(), static_cast<qint16>(e.number()), QStringLiteral(" SetControlInfo"));
+    }
+}
+
+void SetDataQuality(Session &s, QLabel *label, qint32 id)
+{
+    guarded(s, {ErrForm::CodeTab, QStringLiteral("SetDataQuality")}, [&] {
+        auto rs = s.gDB->OpenRecordset(QStringLiteral("Select * from tblDataSource Where DataSourceID = %1").arg(id),
+                                       RecordsetType::Snapshot);
+        if (!(rs->BOF() && rs->EOF_())) {
+            if (label) {
+                setForeColor(label, legacyColor(rs->field(QStringLiteral("ForeColor")).toInt()));
+                label->setText(QStringLiteral("Data Source: ") + rs->field(QStringLiteral("Description")).toString()
+                               + QStringLiteral("  "));
+            }
+        }
+        rs->Close();
+    });
+}
+
+QString arrayName(const QString &name, int index)
+{
+    return QStringLiteral("%1(%2)").arg(name).arg(index);
+}

@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: MIT
+#include "ZobToolbar.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QStyle>
+
+namespace {
+QIcon iconForKey(const QString &key)
+{
+    const QString k = key.toLower();
+    QStyle *st = QApplication::style();
+    if (k == QLatin1String("new") || k == QLatin1String("add"))
+        return st->standardIcon(QStyle::SP_FileIcon);
+    if (k == QLatin1String("open") || k == QLatin1String("select"))
+        return st->standardIcon(QStyle::SP_DialogOpenButton);
+    if (k == QLatin1String("save"))
+        return st->standardIcon(QStyle::SP_DialogSaveButton);
+    if (k == QLatin1String("close") || k == QLatin1String("exit"))
+        return st->standardIcon(QStyle::SP_DialogCloseButton);
+    if (k == QLatin1String("delete"))
+        return st->standardIcon(QStyle::SP_TrashIcon);
+    if (k == QLatin1String("help"))
+        return st->standardIcon(QStyle::SP_DialogHelpButton);
+    if (k == QLatin1String("print"))
+        return st->standardIcon(QStyle::SP_FileDialogDetailedView);
+    if (k == QLatin1String("find") || k == QLatin1String("search"))
+        return st->standardIcon(QStyle::SP_FileDialogContentsView);
+    return st->standardIcon(QStyle::SP_ArrowRight);
+}
+}  // namespace
+
+ZobToolbar::ZobToolbar(QWidget *parent) : QToolBar(parent)
+{
+    setObjectName(QStringLiteral("TB_MDI"));
+    setMovable(false);
+    setIconSize(QSize(20, 20));
+}
+
+int ZobToolbar::addButton(const QString &key, const QString &toolTip, const QString &caption)
+{
+    auto *action = addAction(iconForKey(key), caption.isEmpty() ? key : caption);
+    action->setObjectName(key);
+    action->setToolTip(toolTip.isEmpty() ? key : toolTip);
+    m_buttons.push_back(action);
+    const int index = static_cast<int>(m_buttons.size());
+    connect(action, &QAction::triggered, this, [this, index, key] { emit ButtonClick(index, key); });
+    return index;
+}
+
+int ZobToolbar::addSeparatorButton()
+{
+    m_buttons.push_back(addSeparator());
+    return static_cast<int>(m_buttons.size());
+}
+
+QAction *ZobToolbar::button(int index) const
+{
+    return index >= 1 && index <= m_buttons.size() ? m_buttons[index - 1] : nullptr;
+}
+
+QAction *ZobToolbar::button(const QString &key) const
+{
+    return button(indexOf(key));
+}
+
+int ZobToolbar::indexOf(const QString &key) const
+{
+    for (int i = 0; i < m_buttons.size(); ++i)
+        if (!m_buttons[i]->isSeparator() && m_buttons[i]->objectName().compare(key, Qt::CaseInsensitive) == 0)
+            return i + 1;
+    return 0;
+}
+
+QString ZobToolbar::keyOf(int index) const
+{
+    QAction *a = button(index);
+    return a && !a->isSeparator() ? a->objectName() : QString();
+}
+
+bool ZobToolbar::click(int index)
+{
+    QAction *a = button(index);
+    if (!a || a->isSeparator())
+        return false;
+    if (a->isVisible() && a->isEnabled())
+        a->trigger();
+    return true;
+}
+
+bool ZobToolbar::click(const QString &key)
+{
+    return click(indexOf(key));
+}
