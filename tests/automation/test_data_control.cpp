@@ -1,0 +1,101 @@
+// SPDX-License-Identifier: MIT
+#include "DataControl.h"
+#include "Database.h"
+#include "TestSupport.h"
+
+#include <QComboBox>
+#include <QLineEdit>
+#include <gtest/gtest.h>
+
+namespace {
+class DataControlTest : public ::testing::Test {
+protected:
+    void SetUp() override
+    {
+        ts->gDB->Execute(QStringLiteral("Delete * From tblProject"));
+        for (const char *c : {"alpha", "beta", "gamma"})
+            ts->gDB->Execute(QStringLiteral("Insert Into tblProject (Name) Values ('%1')").arg(QLatin1String(c)));
+        dc.setDatabase(ts->gDB);
+        dc.setRecordSource(QStringLiteral("Select ProjectID, Name From tblProject Order By Name"));
+    }
+    TestSession ts;
+    DataControl dc{QStringLiteral("dcMain")};
+};
+}  // namespace
+
+TEST_F(DataControlTest, CaptionTellsThePositionWithTheFullCount)
+{
+    dc.Refresh();
+    EXPECT_EQ(dc.caption(), QStringLiteral("Record: 1 of 3"));
+    dc.MoveLast();
+    EXPECT_EQ(dc.caption(), QStringLiteral("Record: 3 of 3"));
+    dc.MoveNext();  // past the last row nothing moves
+    EXPECT_EQ(dc.currentRow(), 2);
+
+    dc.setRecordSource(QStringLiteral("Select * From tblProject Where ProjectID < 0"));
+    dc.Refresh();
+    EXPECT_EQ(dc.caption(), QStringLiteral("Record: 0 of 0"));
+    EXPECT_EQ(dc.currentRow(), -1);
+}
+
+TEST_F(DataControlTest, GridFollowsEveryRefresh)
+{
+    DataGrid grid(QStringLiteral("ssGrdMain"));
+    grid.setDataControl(&dc);
+    dc.Refresh();
+    grid.setColumnHidden(QStringLiteral("ProjectID"), true);
+    grid.setColumnCaption(QStringLiteral("Name"), QStringLiteral("Text"));
+    ASSERT_EQ(grid.recordsetModel()->rowCount(), 3);
+    EXPECT_EQ(grid.columnCaptions(), QStringList{QStringLiteral("Text")});
+
+    ts->gDB->Execute(QStringLiteral("Insert Into tblProject (Name) Values ('aardvark')"));
+    dc.Refresh();
+    EXPECT_EQ(grid.recordsetModel()->rowCount(), 4);
+    EXPECT_EQ(grid.cellText(0, 0), QStringLiteral("aardvark"));
+    EXPECT_EQ(grid.columnCaptions(), QStringList{QStringLiteral("Text")});  // hidden columns survive
+    EXPECT_EQ(grid.currentRowIndex(), 0);
+
+    grid.selectRowIndex(2);
+    EXPECT_EQ(dc.currentRow(), 2);
+    dc.MoveFirst();
+    EXPECT_EQ(grid.currentIndex().row(), 0);
+}
+
+TEST_F(DataControlTest, BoundBoxIsWrittenBackWhenTheRowIsLeft)
+{
+    QLineEdit box;
+    dc.bindText(&box, QStringLiteral("Name"));
+    dc.Refresh();
+    EXPECT_EQ(box.text(), QStringLiteral("alpha"));
+    const QVariant id = dc.value(0, QStringLiteral("ProjectID"));
+
+    box.setText(QStringLiteral("changed"));
+    // Not yet written: the row has not been left.
+    auto before = ts->gDB->OpenRecordset(QStringLiteral("Select Name From tblProject Where ProjectID = %1").arg(id.toInt()));
+    EXPECT_EQ(before->field(0).toString(), QStringLiteral("alpha"));
+
+    dc.MoveNext();
+    EXPECT_EQ(box.text(), QStringLiteral("beta"));
+    auto after = ts->gDB->OpenRecordset(QStringLiteral("Select Name From tblProject Where ProjectID = %1").arg(id.toInt()));
+    EXPECT_EQ(after->field(0).toString(), QStringLiteral("changed"));
+    EXPECT_EQ(dc.value(0, QStringLiteral("Name")).toString(), QStringLiteral("changed"));
+
+    // An emptied box writes null; an untouched row writes nothing.
+    box.clear();
+    dc.MovePrevious();
+    auto nulled = ts->gDB->OpenRecordset(QStringLiteral("Select Name From tblProject Where Name Is Null"));
+    EXPECT_EQ(nulled->RecordCount(), 1);
+}
+
+TEST_F(DataControlTest, ComboShowsTheItemOfTheBoundValue)
+{
+    QComboBox combo;
+    combo.addItem(QStringLiteral("first"), 10);
+    combo.addItem(QStringLiteral("second"), 20);
+    selectComboValue(&combo, 20);
+    EXPECT_EQ(combo.currentText(), QStringLiteral("second"));
+    selectComboValue(&combo, QVariant());
+    EXPECT_EQ(combo.currentIndex(), -1);
+    selectComboValue(&combo, 30);
+    EXPECT_EQ(combo.currentIndex(), -1);
+}

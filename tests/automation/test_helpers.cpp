@@ -1,0 +1,193 @@
+// SPDX-License-Identifier: MIT
+#include "DataSourceText.h"
+#include "GuiBridge.h"
+#include "ScriptMessageService.h"
+#include "TestSupport.h"
+#include "Utilities.h"
+#include "VbError.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QEventLoop>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QThread>
+#include <QTimer>
+#include <gtest/gtest.h>
+
+TEST(LegacyColor, NumbersAreBlueGreenRed)
+{
+    EXPECT_EQ(legacyColor(16711680), QColor(0, 0, 255));
+    EXPECT_EQ(legacyColor(255), QColor(255, 0, 0));
+    EXPECT_EQ(legacyColor(0x00336699), QColor(0x99, 0x66, 0x33));
+    EXPECT_EQ(toLegacyColor(QColor(0, 0, 255)), 16711680);
+    EXPECT_EQ(toLegacyColor(legacyColor(0x00123456)), 0x00123456);
+}
+
+TEST(ScriptMessages, AnswersInOrderAndNoneIsLost)
+{
+    ScriptMessageService m;
+    m.queueAnswers({QStringLiteral("no"), QStringLiteral("Yes")});
+    // An OK box cannot take "No": it gets its default and the answers wait.
+    EXPECT_EQ(m.show(QStringLiteral("a"), {}, MsgIcon::Information, MsgButtons::OK, 1), MsgAnswer::OK);
+    EXPECT_EQ(m.pendingAnswers().size(), 2);
+    EXPECT_EQ(m.show(QStringLiteral("b"), {}, MsgIcon::Question, MsgButtons::YesNo, 1), MsgAnswer::No);
+    EXPECT_EQ(m.show(QStringLiteral("c"), {}, MsgIcon::Question, MsgButtons::YesNo, 2), MsgAnswer::Yes);
+    // With nothing queued, the default button.
+    EXPECT_EQ(m.show(QStringLiteral("d"), {}, MsgIcon::Question, MsgButtons::YesNoCancel, 3), MsgAnswer::Cancel);
+    const auto shown = m.messages();
+    ASSERT_EQ(shown.size(), 4);
+    EXPECT_EQ(shown[1].answer, QStringLiteral("No"));
+    EXPECT_EQ(shown[3].answer, QStringLiteral("Cancel"));
+    QString value;
+    m.queueAnswers({QStringLiteral("typed")});
+    EXPECT_TRUE(m.input(QStringLiteral("Name?"), {}, value));
+    EXPECT_EQ(value, QStringLiteral("typed"));
+    EXPECT_FALSE(m.input(QStringLiteral("Name?"), {}, value));
+}
+
+TEST(GuiBridgeTest, CallsRunOnTheGuiThreadAndReturnInsideAModalLoop)
+{
+    GuiBridge bridge;
+    QEventLoop modal;
+    QThread *gui = QThread::currentThread();
+    QVariant first, second;
+    QString failure;
+    std::atomic<bool> done{false};
+    QThread *worker = QThread::create([&] {
+        first = bridge.call([&] { return QVariant(QThread::currentThread() == gui); });
+        // This call opens a nested loop and must come back while that loop still runs.
+        bridge.call([&] { modal.exec(); return QVariant(); });
+        second = bridge.call([&] { const bool nested = modal.isRunning(); modal.quit(); return QVariant(nested); });
+        try {
+            bridge.call([]() -> QVariant { throw VbError(3075, QStringLiteral("Syntax error")); });
+        } catch (const BridgeError &e) {
+            failure = e.message();
+        }
+        done = true;
+    });
+    QEventLoop outer;
+    QObject::connect(worker, &QThread::finished, &outer, &QEventLoop::quit);
+    worker->start();
+    if (!done)
+        outer.exec();
+    worker->wait();
+    delete worker;
+    EXPECT_TRUE(first.toBool());
+    EXPECT_TRUE(second.toBool());
+    EXPECT_EQ(failure, QStringLiteral("3075 Syntax error"));
+}
+
+namespace {
+//! A window with one control of each prefix.
+struct FormFixture {
+    QWidget window;
+    QLineEdit *txt = new QLineEdit(QStringLiteral("text"), &window);
+    QComboBox *cbo = new QComboBox(&window);
+    QCheckBox *chk = new QCheckBox(&window);
+    QGroupBox *fraMain = new QGroupBox(&window);
+    QLabel *lbl = new QLabel(&window);
+    FormFixture()
+    {
+        txt->setObjectName(QStringLiteral("txtName"));
+        cbo->setObjectName(QStringLiteral("cboKind"));
+        cbo->addItems({QStringLiteral("a"), QStringLiteral("b")});
+        cbo->setCurrentIndex(1);
+        chk->setObjectName(QStringLiteral("chkFlag"));
+        fraMain->setObjectName(QStringLiteral("fraMain"));
+        lbl->setObjectName(QStringLiteral("lblSource"));
+    }
+};
+}  // namespace
+
+TEST(FormHelpers, SetControlInfoByNamePrefix)
+{
+    TestSession ts;
+    FormFixture f;
+    SetControlInfo(ts.session(), &f.window, QStringLiteral("lock"), true);
+    EXPECT_TRUE(isLocked(f.txt));
+    EXPECT_FALSE(f.txt->hasFrame());
+    EXPECT_TRUE(isLocked(f.cbo));
+    EXPECT_TRUE(f.chk->isEnabled());
+    EXPECT_TRUE(f.fraMain->isEnabled());
+    SetControlInfo(ts.session(), &f.window, QStringLiteral("lock"), false);
+    EXPECT_FALSE(isLocked(f.txt));
+    EXPECT_TRUE(f.txt->hasFrame());
+
+    SetControlInfo(ts.session(), &f.window, QStringLiteral("clear"), true);
+    EXPECT_TRUE(f.txt->text().isEmpty());
+    EXPECT_EQ(f.cbo->currentIndex(), -1);
+
+    SetControlInfo(ts.session(), &f.window, QStringLiteral("enable"), false);
+    EXPECT_FALSE(f.txt->isEnabled());
+    EXPECT_TRUE(f.cbo->isEnabled());  // the combo verb is "enabled"
+    EXPECT_TRUE(ts.messages.shown.isEmpty());
+
+    // "enabled" on a window with a combo ends at the handler in the shared form.
+    SetControlInfo(ts.session(), &f.window, QStringLiteral("enabled"), false);
+    ASSERT_EQ(ts.messages.shown.size(), 1);
+    EXPECT_TRUE(ts.messages.shown[0].text.startsWith(QStringLiteral("Error in routine  SetControlInfo")));
+    EXPECT_EQ(ts.messages.shown[0].icon, MsgIcon::Stop);
+}
+
+TEST(FormHelpers, CommandRowAndOptions)
+{
+    QWidget w;
+    QVector<QPushButton *> cmd;
+    for (int i = 0; i < 7; ++i) {
+        cmd << new QPushButton(&w);
+        cmd.back()->setObjectName(arrayName(QStringLiteral("cmdControl"), i));
+    }
+    auto *fra = new QGroupBox(&w);
+    fra->setObjectName(QStringLiteral("fraMain"));
+    cmd[5]->setEnabled(false);
+    SetCmdControls(&w, 1);
+    const bool mode1[] = {true, false, false, true, true, false, true};
+    for (int i = 0; i < 7; ++i)
+        EXPECT_EQ(cmd[i]->isEnabled(), mode1[i]) << i;
+    EXPECT_FALSE(fra->isEnabled());
+    cmd[5]->setEnabled(true);
+    SetCmdControls(&w, 2);
+    for (int i = 0; i < 7; ++i)
+        EXPECT_EQ(cmd[i]->isEnabled(), i == 5 ? true : !mode1[i]) << i;
+    EXPECT_TRUE(fra->isEnabled());
+
+    QVector<QAbstractButton *> opts;
+    for (int i = 0; i < 3; ++i) {
+        opts << new QRadioButton(&w);
+        opts.back()->setObjectName(arrayName(QStringLiteral("optMeanMaxMin"), i));
+    }
+    EXPECT_EQ(GetOptionIndex(opts), -1);
+    opts[2]->setChecked(true);
+    EXPECT_EQ(GetOptionIndex(opts), 2);
+}
+
+TEST(FormHelpers, DataSourceTextAndColour)
+{
+    TestSession ts;
+    auto rs = ts->gDB->OpenRecordset(QStringLiteral("Select * From tblDataSource Order By DataSourceID"));
+    ASSERT_FALSE(rs->EOF_());
+    const qint32 id = rs->field(QStringLiteral("DataSourceID")).toInt();
+    const QString description = rs->field(QStringLiteral("Description")).toString();
+    const qint32 color = rs->field(QStringLiteral("ForeColor")).toInt();
+
+    QLabel label(QStringLiteral("before"));
+    SetDataQuality(ts.session(), &label, id);
+    EXPECT_EQ(label.text(), QStringLiteral("Data Source: ") + description + QStringLiteral("  "));
+    EXPECT_EQ(toLegacyColor(foreColor(&label)), color);
+    QLabel other(QStringLiteral("before"));
+    SetDataQuality(ts.session(), &other, 987654);
+    EXPECT_EQ(other.text(), QStringLiteral("before"));
+
+    EXPECT_EQ(GetDataFlagText(ts.session(), id), description + QStringLiteral("  "));
+    EXPECT_EQ(GetDataSourceText(ts.session(), id), description);
+    EXPECT_EQ(GetDataSourceText(ts.session(), 987654), QStringLiteral("not found"));
+    EXPECT_TRUE(ts.messages.shown.isEmpty());
+    EXPECT_EQ(GetDataFlagText(ts.session(), 987654), QStringLiteral("unknown"));
+    ASSERT_EQ(ts.messages.shown.size(), 1);
+    EXPECT_EQ(ts.messages.shown[0].text, QStringLiteral("Error Data Flag: 987654 could not be found in the database."));
+    EXPECT_EQ(ts.messages.shown[0].icon, MsgIcon::Warning);
+}
