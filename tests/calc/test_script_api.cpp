@@ -1,0 +1,127 @@
+// SPDX-License-Identifier: MIT
+// The script bindings calc.* and diet.*: their names and argument orders are a contract with the
+// scripts, and their results are the routines' own numbers.
+#include "CalcFixture.h"
+#include "CalcScriptApi.h"
+#include "DietScriptApi.h"
+
+#include <QMetaMethod>
+
+namespace {
+
+//! "Name(type,type)" of every invokable method of an object.
+QStringList signaturesOf(const QObject &object)
+{
+    QStringList out;
+    const QMetaObject *meta = object.metaObject();
+    for (int i = meta->methodOffset(); i < meta->methodCount(); ++i)
+        if (meta->method(i).methodType() == QMetaMethod::Method)
+            out << QString::fromLatin1(meta->method(i).methodSignature());
+    return out;
+}
+
+using ScriptApiTest = CalcTest;
+
+TEST_F(ScriptApiTest, MethodsHaveTheScriptNamesAndArgumentOrders)
+{
+    CalcScriptApi calc(s);
+    DietScriptApi diet(s);
+    const QStringList calcExpected = {
+        QStringLiteral("lastError()"),
+        QStringLiteral("ConvertWeightIs(bool,double,double)"),
+        QStringLiteral("CalculateDietPorportion(bool)"),
+        QStringLiteral("ConvertDietProportion(bool,QString)"),
+        QStringLiteral("ConvertDietProportion(bool)"),
+        QStringLiteral("SumProportions(bool)"),
+        QStringLiteral("GetH2OAvg()"),
+        QStringLiteral("GetAvgTrophicLevel(QVariant,QString)"),
+        QStringLiteral("GetMEAvg()"),
+        QStringLiteral("GetFMR_TDI(QString)"),
+        QStringLiteral("GetDailyDryDiet()"),
+        QStringLiteral("GetIntakeEquationText(QVariant,QString)"),
+        QStringLiteral("GetIntakeRate(QVariant,double,QString)"),
+        QStringLiteral("GetClassificationText(QVariant,QString,QString)"),
+        QStringLiteral("GetMeasurementText(QVariant,QString,QString,QString)"),
+        QStringLiteral("CalculationSQL()"),
+    };
+    EXPECT_EQ(signaturesOf(calc), calcExpected);
+    const QStringList dietExpected = {
+        QStringLiteral("lastError()"),
+        QStringLiteral("GetDietItemsSQL(QVariant,QVariant)"),
+        QStringLiteral("Replace()"),
+        QStringLiteral("AddWildlifeDiet(QVariant)"),
+        QStringLiteral("AddWildlifeDietItems(QVariant)"),
+        QStringLiteral("GetTrophicLevelText(QVariant,QString)"),
+        QStringLiteral("GetWaterConversionText(QVariant,QString)"),
+        QStringLiteral("UpdateDS(bool)"),
+    };
+    EXPECT_EQ(signaturesOf(diet), dietExpected);
+}
+
+TEST_F(ScriptApiTest, NumbersComeBackAsTheDoubleOfTheSingle)
+{
+    CalcScriptApi calc(s);
+    QVariant converted;
+    ASSERT_TRUE(QMetaObject::invokeMethod(&calc, "ConvertWeightIs", Q_RETURN_ARG(QVariant, converted), Q_ARG(bool, false),
+                                          Q_ARG(double, 0.4), Q_ARG(double, 50.0)));
+    EXPECT_EQ(converted.toDouble(), static_cast<double>(0.2f));
+    EXPECT_EQ(calc.lastError(), QString());
+
+    // The routine has no handler of its own: the script gets undefined and the error text.
+    ASSERT_TRUE(QMetaObject::invokeMethod(&calc, "ConvertWeightIs", Q_RETURN_ARG(QVariant, converted), Q_ARG(bool, true),
+                                          Q_ARG(double, 0.4), Q_ARG(double, 100.0)));
+    EXPECT_FALSE(converted.isValid());
+    EXPECT_EQ(calc.lastError(), QStringLiteral("11 Division by zero"));
+
+    fmr(QStringLiteral("101.49"));
+    ae(1, QStringLiteral("100"));
+    ge(1, QStringLiteral("3.2"), QStringLiteral("3.2"));
+    item(1, QStringLiteral("meal"), QStringLiteral("1"), QStringLiteral("1"), 0, QStringLiteral("60"), 1, 1);
+    EXPECT_EQ(calc.GetFMR_TDI(QStringLiteral("TDI")), static_cast<double>(31.72f));
+    EXPECT_EQ(calc.GetMEAvg(), static_cast<double>(3.2f));
+    EXPECT_EQ(calc.GetH2OAvg(), static_cast<double>(0.6f));
+    EXPECT_EQ(calc.GetDailyDryDiet().toDouble(), static_cast<double>((1.0f - 0.6f) * 31.72f));
+    EXPECT_EQ(calc.GetAvgTrophicLevel(QStringLiteral("7"), QStringLiteral("tblWildlifeDietItems")), QStringLiteral("0"));
+    EXPECT_TRUE(calc.CalculationSQL().contains(QStringLiteral("31.72*[tblWildlifeDietItems]![Wet_Proportion]")));
+    EXPECT_TRUE(shown().isEmpty());
+
+    // An id that is not a number is the script's error, not a routine's.
+    EXPECT_EQ(calc.GetIntakeRate(QStringLiteral("abc"), 100.0, QStringLiteral("Base")), 0.0);
+    EXPECT_EQ(calc.lastError(), QStringLiteral("13 Type mismatch"));
+}
+
+TEST_F(ScriptApiTest, ProportionCommandsRunOnTheScenario)
+{
+    CalcScriptApi calc(s);
+    water(1, QStringLiteral("50"));
+    item(1, QStringLiteral("a"), QStringLiteral("0.3"), QStringLiteral("NULL"), 1);
+    item(2, QStringLiteral("b"), QStringLiteral("0.3"), QStringLiteral("NULL"), 1);
+    bool rescaled = false;
+    ASSERT_TRUE(QMetaObject::invokeMethod(&calc, "CalculateDietPorportion", Q_RETURN_ARG(bool, rescaled), Q_ARG(bool, true)));
+    EXPECT_TRUE(rescaled);
+    ASSERT_TRUE(QMetaObject::invokeMethod(&calc, "ConvertDietProportion", Q_ARG(bool, true)));
+    EXPECT_EQ(doubles(proportions("Dry_Proportion")), (std::vector<double>{0.25, 0.25}));
+    calc.SumProportions(false);
+    EXPECT_EQ(doubles(proportions("Dry_Proportion")), (std::vector<double>{0.5, 0.5}));
+    EXPECT_EQ(doubles(proportions("Wet_Proportion")), (std::vector<double>{0.5, 0.5}));
+}
+
+TEST_F(ScriptApiTest, DietCallsTakeEitherOrderOfTypeAndId)
+{
+    DietScriptApi diet(s);
+    const QString expected = QStringLiteral(" WHERE tblWildlifeDietItems.ScenarioID = 7 Order by tblWildlifeDietItems.Name");
+    EXPECT_TRUE(diet.GetDietItemsSQL(QStringLiteral("User"), 7).endsWith(expected));
+    EXPECT_TRUE(diet.GetDietItemsSQL(7, QStringLiteral("User")).endsWith(expected));
+    EXPECT_EQ(diet.GetTrophicLevelText(0, QStringLiteral("tblDietItem")), QStringLiteral("No record selected"));
+    EXPECT_TRUE(diet.Replace());
+    EXPECT_EQ(diet.lastError(), QString());
+
+    // Without an open scenario the routines report instead of crashing.
+    s.gScenario.reset();
+    EXPECT_FALSE(diet.Replace());
+    ASSERT_EQ(shown().size(), 1);
+    EXPECT_EQ(shown()[0].text,
+              QStringLiteral("91\r\nObject variable or With block variable not set\r\nError in .ReplaceWildlifeDietItems"));
+}
+
+}  // namespace
