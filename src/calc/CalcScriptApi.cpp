@@ -7,16 +7,23 @@
 #include "Session.h"
 #include "Wildlife.h"
 
+#include <limits>
+
 using scriptapi::guardedCall;
 using scriptapi::toId;
 
+namespace {
+//! The result of a routine whose error reached the script.
+constexpr double kNoNumber = std::numeric_limits<double>::quiet_NaN();
+}
+
 CalcScriptApi::CalcScriptApi(Session &session, QObject *parent) : QObject(parent), m_session(session) {}
 
-QVariant CalcScriptApi::ConvertWeightIs(bool valueIsDry, double value, double waterPercent)
+double CalcScriptApi::ConvertWeightIs(bool valueIsDry, double value, double waterPercent)
 {
-    return guardedCall(m_lastError, QVariant(), [&] {
-        return QVariant(static_cast<double>(
-            ::ConvertWeightIs(valueIsDry, static_cast<float>(value), static_cast<float>(waterPercent))));
+    return guardedCall(m_lastError, kNoNumber, [&] {
+        return static_cast<double>(
+            ::ConvertWeightIs(valueIsDry, static_cast<float>(value), static_cast<float>(waterPercent)));
     });
 }
 
@@ -63,10 +70,9 @@ double CalcScriptApi::GetFMR_TDI(const QString &what)
     return guardedCall(m_lastError, 0.0, [&] { return static_cast<double>(::GetFMR_TDI(m_session, what)); });
 }
 
-QVariant CalcScriptApi::GetDailyDryDiet()
+double CalcScriptApi::GetDailyDryDiet()
 {
-    return guardedCall(m_lastError, QVariant(),
-                       [&] { return QVariant(static_cast<double>(::GetDailyDryDiet(m_session))); });
+    return guardedCall(m_lastError, kNoNumber, [&] { return static_cast<double>(::GetDailyDryDiet(m_session)); });
 }
 
 QString CalcScriptApi::GetIntakeEquationText(const QVariant &id, const QString &what)

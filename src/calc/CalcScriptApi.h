@@ -10,7 +10,7 @@ class Session;
 //! The calculation routines for scripts (calc.*), under their own names and argument orders.
 //! Numbers come back as the routines give them: a single-precision result as the double of that
 //! single. Routines report their own failures in message boxes; an error that a routine passes to
-//! its caller (ConvertWeightIs, GetDailyDryDiet) gives undefined and is kept in lastError.
+//! its caller (ConvertWeightIs, GetDailyDryDiet) gives NaN and is kept in lastError.
 class CalcScriptApi : public QObject {
     Q_OBJECT
     //! "<number> <description>" of the last error passed to the script, "" when none.
@@ -23,7 +23,7 @@ public:
     Q_INVOKABLE QString lastError() const { return m_lastError; }
 
     //! ConvertWeightIs(valueIsDry, value, waterPercent): the converted amount, "0.000".
-    Q_INVOKABLE QVariant ConvertWeightIs(bool valueIsDry, double value, double waterPercent);
+    Q_INVOKABLE double ConvertWeightIs(bool valueIsDry, double value, double waterPercent);
     //! CalculateDietPorportion(isWet): true when the basis was rescaled.
     Q_INVOKABLE bool CalculateDietPorportion(bool isWet);
     //! ConvertDietProportion(fromWet, mode); mode defaults to "User".
@@ -40,7 +40,7 @@ public:
     //! FMR (what "FMR", kcal/day) or TDI (anything else, g/day).
     Q_INVOKABLE double GetFMR_TDI(const QString &what);
     //! DD, the daily dry-weight diet, g/day.
-    Q_INVOKABLE QVariant GetDailyDryDiet();
+    Q_INVOKABLE double GetDailyDryDiet();
     //! The equation text (what "Equation") or the final unit of a model.
     Q_INVOKABLE QString GetIntakeEquationText(const QVariant &id, const QString &what);
     //! The base (kind "Base") or adjusted rate of a model for a weight in grams.
