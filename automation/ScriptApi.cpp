@@ -1115,6 +1115,9 @@ QJSValue ObjectBridgeApi::invoke(const QString &method, const QVariantList &args
                                       gargs[3], gargs[4], gargs[5], gargs[6], gargs[7], gargs[8], gargs[9]);
         if (!ok)
             throw BridgeError(QStringLiteral("%1 could not be called").arg(method));
+        // A method that returns a QVariant wrote into the variant held by ret: hand on that one.
+        if (chosen.returnMetaType().id() == QMetaType::QVariant)
+            return ret.value<QVariant>();
         return ret;
     });
     return m_ctx.toJs(result);

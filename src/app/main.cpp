@@ -3,6 +3,7 @@
 #include "QtServices.h"
 #include "QtWindowHost.h"
 #include "Session.h"
+#include "clsDietItem.h"
 #include "frmMDI.h"
 
 #if __has_include("ScriptRunner.h")
@@ -76,6 +77,8 @@ int main(int argc, char *argv[])
 #endif
         return 1;
     }
+    // The one diet-item object lives for the whole run.
+    session.gDietItem = std::make_shared<clsDietItem>(session);
 
     frmMDI mdi(session, host);
     mdi.show();

@@ -190,7 +190,6 @@ void Recordset::load()
         const char *t = sqlite3_column_table_name(probe.stmt, i);
         if (!t) {
             oneTable = false;
-            m_notUpdatableReason = QStringLiteral("a computed column");
             break;
         }
         const QString name = QString::fromUtf8(t);
@@ -198,23 +197,32 @@ void Recordset::load()
             table = name;
         else if (name.compare(table, Qt::CaseInsensitive) != 0) {
             oneTable = false;
-            m_notUpdatableReason = QStringLiteral("columns of several tables");
             break;
         }
     }
-    if (m_type == RecordsetType::Snapshot)
-        m_notUpdatableReason = QStringLiteral("a snapshot");
-    else if (oneTable && hasReadOnlyShape(m_sql))
-        m_notUpdatableReason = QStringLiteral("a join, grouping or DISTINCT");
     m_updatable = m_type != RecordsetType::Snapshot && oneTable && !table.isEmpty() && !hasReadOnlyShape(m_sql);
 
     QVector<ColumnKind> kinds(n);
     m_columns.clear();
     m_originColumns.clear();
+    m_originTables.clear();
     for (int i = 0; i < n; ++i) {
-        m_columns << QString::fromUtf8(sqlite3_column_name(probe.stmt, i));
+        QString name = QString::fromUtf8(sqlite3_column_name(probe.stmt, i));
+        // Inside nested joins SQLite marks column names with ":<n>" ("Factor:1"); the engine the
+        // program was written for names the column plainly.
+        const qsizetype colon = name.lastIndexOf(QLatin1Char(':'));
+        if (colon > 0 && colon + 1 < name.size()) {
+            bool digits = true;
+            for (qsizetype k = colon + 1; k < name.size(); ++k)
+                digits = digits && name.at(k).isDigit();
+            if (digits)
+                name.truncate(colon);
+        }
+        m_columns << name;
         const char *origin = sqlite3_column_origin_name(probe.stmt, i);
         m_originColumns << (origin ? QString::fromUtf8(origin) : QString());
+        const char *originTable = sqlite3_column_table_name(probe.stmt, i);
+        m_originTables << (originTable ? QString::fromUtf8(originTable) : QString());
         const char *decl = sqlite3_column_decltype(probe.stmt, i);
         kinds[i] = kindOf(decl ? QString::fromUtf8(decl) : QString());
     }
@@ -240,7 +248,6 @@ void Recordset::load()
         } else {
             m_updatable = false;
             m_table.clear();
-            m_notUpdatableReason = QStringLiteral("no row identity");
         }
     }
 
@@ -274,10 +281,18 @@ int Recordset::indexOf(const QString &name) const
     for (int i = 0; i < m_columns.size(); ++i)
         if (m_columns[i].compare(name, Qt::CaseInsensitive) == 0)
             return i;
-    // A qualified name "tbl.col" or "tbl!col" finds its column too.
-    const int dot = std::max(name.lastIndexOf(QLatin1Char('.')), name.lastIndexOf(QLatin1Char('!')));
-    if (dot > 0)
-        return indexOf(name.mid(dot + 1));
+    // A qualified name "tbl.col" or "tbl!col" finds the column of that table, or else the first column
+    // of that name (two columns of one name from two tables are told apart by their table).
+    const int dot = static_cast<int>(std::max(name.lastIndexOf(QLatin1Char('.')), name.lastIndexOf(QLatin1Char('!'))));
+    if (dot > 0) {
+        const QString table = name.left(dot);
+        const QString column = name.mid(dot + 1);
+        for (int i = 0; i < m_columns.size(); ++i)
+            if (m_columns[i].compare(column, Qt::CaseInsensitive) == 0
+                && m_originTables[i].compare(table, Qt::CaseInsensitive) == 0)
+                return i;
+        return indexOf(column);
+    }
     return -1;
 }
 
@@ -479,16 +494,15 @@ void Recordset::FindPrevious(const QString &criteria)
     find(criteria, m_eof ? static_cast<int>(m_rows.size()) - 1 : m_pos - 1, -1);
 }
 
-static VbError notUpdatable(const QString &reason)
+static VbError notUpdatable()
 {
-    return VbError(VbErr::ReadOnly,
-                   QStringLiteral("Cannot update. Database or object is read-only. (The recordset rests on %1.)").arg(reason));
+    return VbError(VbErr::ReadOnly, QStringLiteral("Cannot update. Database or object is read-only."));
 }
 
 void Recordset::AddNew()
 {
     if (!m_updatable)
-        throw notUpdatable(m_notUpdatableReason);
+        throw notUpdatable();
     m_buffer = QVector<QVariant>(m_columns.size());
     m_dirty = QVector<bool>(m_columns.size(), false);
     // Defaults of the table fill the new row, as the engine shows them before the row is saved.
@@ -545,7 +559,7 @@ void Recordset::AddNew()
 void Recordset::Edit()
 {
     if (!m_updatable)
-        throw notUpdatable(m_notUpdatableReason);
+        throw notUpdatable();
     if (m_pos < 0 || m_pos >= m_rows.size())
         throw VbError::noCurrentRecord();
     m_buffer = m_rows[m_pos];
@@ -643,7 +657,7 @@ void Recordset::Update()
 void Recordset::Delete()
 {
     if (!m_updatable)
-        throw notUpdatable(m_notUpdatableReason);
+        throw notUpdatable();
     if (m_pos < 0 || m_pos >= m_rows.size())
         throw VbError::noCurrentRecord();
     Statement st;

@@ -101,13 +101,13 @@ private:
     RecordsetType m_type;
     QStringList m_columns;
     QStringList m_originColumns;   // column in the base table, per column ("" if computed)
+    QStringList m_originTables;    // table of each column ("" if computed)
     QVector<QVector<QVariant>> m_rows;
     QVector<qint64> m_rowKeys;     // key value of each row in the base table (updatable only)
     QString m_table;
     QString m_keyColumn;
     int m_keyIndex = -1;
     bool m_updatable = false;
-    QString m_notUpdatableReason;
     int m_pos = -1;
     int m_populated = 0;
     bool m_bof = true;

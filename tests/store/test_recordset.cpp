@@ -141,6 +141,18 @@ TEST_F(RecordsetTest, AggregatesJoinsAndSnapshotsCannotBeEdited)
     EXPECT_EQ(errorNumber([&] { snap->Edit(); }), VbErr::ReadOnly);
 }
 
+TEST_F(RecordsetTest, ColumnsOfNestedJoinsKeepTheirPlainNames)
+{
+    // SQLite names columns of parenthesised joins "Note:1"; a second Name is found by its table.
+    auto rs = db->OpenRecordset(QStringLiteral(
+        "SELECT tblThing.Name, tblLink.Note, tblOther.Name FROM tblThing AS tblOther RIGHT JOIN (tblThing RIGHT JOIN "
+        "tblLink ON tblThing.ThingID = tblLink.ThingID) ON tblOther.ThingID = tblLink.ThingID WHERE tblLink.Note = 'c'"));
+    EXPECT_EQ(rs->fieldNames(), (QStringList{"Name", "Note", "Name"}));
+    EXPECT_EQ(rs->field(QStringLiteral("Note")).toString(), QStringLiteral("c"));
+    EXPECT_EQ(rs->field(QStringLiteral("tblLink.Note")).toString(), QStringLiteral("c"));
+    EXPECT_EQ(rs->field(QStringLiteral("Name")).toString(), QStringLiteral("Cedar"));
+}
+
 TEST_F(RecordsetTest, FindUsesJetCriteriaWithoutRegardToCase)
 {
     auto rs = db->OpenRecordset(QStringLiteral("tblThing"), RecordsetType::Snapshot);
