@@ -17,7 +17,17 @@ struct Database::TableInfo {
 
 struct Database::Cache {
     QHash<QString, TableInfo> tables;   // lower-case table name -> info
+    struct Prepared {
+        sqlite3_stmt *stmt = nullptr;
+        bool inUse = false;
+    };
+    QHash<QByteArray, Prepared> statements;       // SQL text -> its statement
+    QHash<sqlite3_stmt *, QByteArray> cachedText; // statement -> its key, for the statements cached
 };
+
+namespace {
+constexpr int kStatementCacheLimit = 256;
+}
 
 namespace {
 
@@ -54,6 +64,9 @@ Database::Database(QString path, sqlite3 *db) : m_path(std::move(path)), m_db(db
 
 Database::~Database()
 {
+    for (const auto &p : std::as_const(m_cache->statements))
+        sqlite3_finalize(p.stmt);
+    m_cache->statements.clear();
     if (m_db)
         sqlite3_close_v2(m_db);
 }
@@ -216,3 +229,46 @@ QString Database::columnType(const QString &table, const QString &column)
 QStringList Database::columnsOf(const QString &table) { return tableInfo(table)->columns; }
 
 void Database::clearSchemaCache() { m_cache->tables.clear(); }
+
+int Database::prepareCached(const QByteArray &sql, sqlite3_stmt **out)
+{
+    *out = nullptr;
+    auto it = m_cache->statements.find(sql);
+    if (it != m_cache->statements.end() && !it->inUse) {
+        it->inUse = true;
+        *out = it->stmt;
+        return SQLITE_OK;
+    }
+    const int rc = sqlite3_prepare_v2(m_db, sql.constData(), static_cast<int>(sql.size()), out, nullptr);
+    if (rc != SQLITE_OK || it != m_cache->statements.end())
+        return rc;   // a failure, or a second user of a statement in use: not cached
+    if (m_cache->statements.size() >= kStatementCacheLimit) {
+        // Forget the statements nobody holds; the busy ones stay until they are handed back.
+        for (auto e = m_cache->statements.begin(); e != m_cache->statements.end();) {
+            if (e->inUse) {
+                ++e;
+                continue;
+            }
+            m_cache->cachedText.remove(e->stmt);
+            sqlite3_finalize(e->stmt);
+            e = m_cache->statements.erase(e);
+        }
+    }
+    m_cache->statements.insert(sql, {*out, true});
+    m_cache->cachedText.insert(*out, sql);
+    return rc;
+}
+
+void Database::releaseCached(sqlite3_stmt *stmt)
+{
+    if (!stmt)
+        return;
+    auto key = m_cache->cachedText.constFind(stmt);
+    if (key == m_cache->cachedText.constEnd()) {
+        sqlite3_finalize(stmt);
+        return;
+    }
+    sqlite3_reset(stmt);
+    sqlite3_clear_bindings(stmt);
+    m_cache->statements[key.value()].inUse = false;
+}

@@ -7,6 +7,7 @@
 #include <memory>
 
 struct sqlite3;
+struct sqlite3_stmt;
 
 //! The one open database of the program, with DAO's operations: OpenRecordset and Execute.
 //! Every statement is Jet SQL and passes through translateJetSql. Errors throw VbError with the
@@ -49,6 +50,13 @@ public:
     void clearSchemaCache();
 
     sqlite3 *handle() const { return m_db; }
+
+    //! A prepared statement for sql, from a cache of statements kept across calls (preparing is the
+    //! dearest part of a small query). Returns SQLite's result code; hand the statement back with
+    //! releaseCached. A statement still in use is never handed out twice: a second one is prepared.
+    int prepareCached(const QByteArray &sql, sqlite3_stmt **out);
+    //! Resets a statement from prepareCached and makes it available again (or finalizes it).
+    void releaseCached(sqlite3_stmt *stmt);
 
     //! Raises the VbError matching SQLite's last error on this connection.
     [[noreturn]] void raiseLastError(const QString &context = {}) const;

@@ -120,9 +120,20 @@ void bindValue(sqlite3_stmt *stmt, int index, const QVariant &value)
     }
 }
 
+//! A statement from the database's cache, handed back (reset) when it goes out of scope.
 struct Statement {
     sqlite3_stmt *stmt = nullptr;
-    ~Statement() { sqlite3_finalize(stmt); }
+    Database *db = nullptr;
+    int prepare(Database *database, const QByteArray &sql)
+    {
+        db = database;
+        return db->prepareCached(sql, &stmt);
+    }
+    ~Statement()
+    {
+        if (db)
+            db->releaseCached(stmt);
+    }
 };
 
 //! True when the statement has, outside parentheses and strings, one of the words that make a
@@ -176,7 +187,7 @@ void Recordset::load()
     sqlite3 *h = m_db->handle();
     Statement probe;
     const QByteArray sql = m_sql.toUtf8();
-    if (sqlite3_prepare_v2(h, sql.constData(), -1, &probe.stmt, nullptr) != SQLITE_OK)
+    if (probe.prepare(m_db, sql.constData()) != SQLITE_OK)
         m_db->raiseLastError(m_sourceSql);
     if (sqlite3_column_count(probe.stmt) == 0)
         throw VbError(VbErr::InvalidArgument, QStringLiteral("Invalid argument: '%1' does not return records.").arg(m_sourceSql));
@@ -242,7 +253,7 @@ void Recordset::load()
         QString withKey = m_sql;
         withKey.insert(select + 6, QStringLiteral(" \"%1\".rowid AS %2,").arg(table, kRowIdAlias));
         const QByteArray keyed = withKey.toUtf8();
-        if (sqlite3_prepare_v2(h, keyed.constData(), -1, &run.stmt, nullptr) == SQLITE_OK) {
+        if (run.prepare(m_db, keyed.constData()) == SQLITE_OK) {
             stmt = run.stmt;
             offset = 1;
         } else {
@@ -465,7 +476,7 @@ void Recordset::find(const QString &criteria, int start, int step)
     select += QLatin1Char(')');
     Statement st;
     const QByteArray utf8 = select.toUtf8();
-    if (sqlite3_prepare_v2(m_db->handle(), utf8.constData(), -1, &st.stmt, nullptr) != SQLITE_OK)
+    if (st.prepare(m_db, utf8.constData()) != SQLITE_OK)
         m_db->raiseLastError(criteria);
     m_editMode = EditMode::None;
     for (int r = start; r >= 0 && r < m_rows.size(); r += step) {
@@ -510,7 +521,7 @@ void Recordset::AddNew()
     {
         Statement st;
         const QByteArray pragma = QStringLiteral("PRAGMA table_info(\"%1\")").arg(m_table).toUtf8();
-        if (sqlite3_prepare_v2(h, pragma.constData(), -1, &st.stmt, nullptr) == SQLITE_OK) {
+        if (st.prepare(m_db, pragma.constData()) == SQLITE_OK) {
             while (sqlite3_step(st.stmt) == SQLITE_ROW) {
                 if (sqlite3_column_type(st.stmt, 4) == SQLITE_NULL)
                     continue;
@@ -519,7 +530,7 @@ void Recordset::AddNew()
                 const QString type = QString::fromUtf8(reinterpret_cast<const char *>(sqlite3_column_text(st.stmt, 2)));
                 Statement ev;
                 const QByteArray q = QStringLiteral("SELECT %1").arg(dflt).toUtf8();
-                if (sqlite3_prepare_v2(h, q.constData(), -1, &ev.stmt, nullptr) == SQLITE_OK
+                if (ev.prepare(m_db, q.constData()) == SQLITE_OK
                     && sqlite3_step(ev.stmt) == SQLITE_ROW) {
                     for (int i = 0; i < m_columns.size(); ++i)
                         if (m_originColumns[i].compare(col, Qt::CaseInsensitive) == 0)
@@ -536,11 +547,11 @@ void Recordset::AddNew()
                                             "coalesce((SELECT max(\"%2\") FROM \"%1\"), 0)) + 1")
                                  .arg(m_table, m_keyColumn)
                                  .toUtf8();
-        if (sqlite3_prepare_v2(h, q.constData(), -1, &st.stmt, nullptr) != SQLITE_OK) {
+        if (st.prepare(m_db, q.constData()) != SQLITE_OK) {
             // sqlite_sequence exists only once a table uses AUTOINCREMENT; without it use the column.
             Statement alt;
             const QByteArray q2 = QStringLiteral("SELECT coalesce(max(\"%2\"), 0) + 1 FROM \"%1\"").arg(m_table, m_keyColumn).toUtf8();
-            if (sqlite3_prepare_v2(h, q2.constData(), -1, &alt.stmt, nullptr) != SQLITE_OK)
+            if (alt.prepare(m_db, q2.constData()) != SQLITE_OK)
                 m_db->raiseLastError(m_table);
             sqlite3_step(alt.stmt);
             m_newKey = sqlite3_column_int64(alt.stmt, 0);
@@ -611,7 +622,7 @@ void Recordset::Update()
     }
     Statement st;
     const QByteArray utf8 = sql.toUtf8();
-    if (sqlite3_prepare_v2(h, utf8.constData(), -1, &st.stmt, nullptr) != SQLITE_OK)
+    if (st.prepare(m_db, utf8.constData()) != SQLITE_OK)
         m_db->raiseLastError(sql);
     for (int i = 0; i < values.size(); ++i)
         bindValue(st.stmt, i + 1, values[i]);
@@ -629,7 +640,7 @@ void Recordset::Update()
             names << QStringLiteral("\"%1\"").arg(c);
         Statement rd;
         const QByteArray q = QStringLiteral("SELECT %1 FROM \"%2\" WHERE rowid = ?1").arg(names.join(QLatin1Char(',')), m_table).toUtf8();
-        if (sqlite3_prepare_v2(h, q.constData(), -1, &rd.stmt, nullptr) == SQLITE_OK) {
+        if (rd.prepare(m_db, q.constData()) == SQLITE_OK) {
             sqlite3_bind_int64(rd.stmt, 1, rowid);
             if (sqlite3_step(rd.stmt) == SQLITE_ROW)
                 for (int i = 0; i < stored.size(); ++i)
@@ -662,7 +673,7 @@ void Recordset::Delete()
         throw VbError::noCurrentRecord();
     Statement st;
     const QByteArray q = QStringLiteral("DELETE FROM \"%1\" WHERE rowid = ?1").arg(m_table).toUtf8();
-    if (sqlite3_prepare_v2(m_db->handle(), q.constData(), -1, &st.stmt, nullptr) != SQLITE_OK)
+    if (st.prepare(m_db, q.constData()) != SQLITE_OK)
         m_db->raiseLastError(m_table);
     sqlite3_bind_int64(st.stmt, 1, m_rowKeys[m_pos]);
     if (sqlite3_step(st.stmt) != SQLITE_DONE)
