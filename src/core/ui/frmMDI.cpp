@@ -46,14 +46,35 @@ QAction *frmMDI::menuItem(const QString &name) const
     return findChild<QAction *>(name);
 }
 
+QVector<frmMDI::LoadHook> &frmMDI::loadHooks()
+{
+    static QVector<LoadHook> hooks;
+    return hooks;
+}
+
+void frmMDI::addLoadHook(LoadHook hook)
+{
+    loadHooks().append(std::move(hook));
+}
+
+void frmMDI::requireWindow(QAction *item, const QString &window)
+{
+    if (QtWindowHost::isRegistered(window))
+        return;
+    item->setEnabled(false);
+    item->setToolTip(QStringLiteral("This window (%1) is not available yet in this version of the program.").arg(window));
+}
+
 void frmMDI::buildMenu()
 {
     auto show = [this](const QString &name, bool modal = false) { return [this, name, modal] { m_host.show(name, modal); }; };
 
     QMenu *file = menuBar()->addMenu(QStringLiteral("&File"));
     file->setObjectName(QStringLiteral("mnuFile"));
-    connect(item(file, QStringLiteral("mnuIniSetup"), QStringLiteral("&Setup...")), &QAction::triggered, this,
-            show(QStringLiteral("frmSetup")));
+    file->setToolTipsVisible(true);
+    QAction *setup = item(file, QStringLiteral("mnuIniSetup"), QStringLiteral("&Setup..."));
+    connect(setup, &QAction::triggered, this, show(QStringLiteral("frmSetup")));
+    requireWindow(setup, QStringLiteral("frmSetup"));
     file->addSeparator()->setObjectName(QStringLiteral("mnuBar10"));
     // Exit ends the process at once: no window is asked anything.
     connect(item(file, QStringLiteral("mnuExit"), QStringLiteral("E&xit")), &QAction::triggered, this,
@@ -61,6 +82,7 @@ void frmMDI::buildMenu()
 
     QMenu *project = menuBar()->addMenu(QStringLiteral("Project"));
     project->setObjectName(QStringLiteral("mnuProjectMenu"));
+    project->setToolTipsVisible(true);
     QAction *title = project->menuAction();
     title->setObjectName(QStringLiteral("mnuProject"));
     connect(project, &QMenu::aboutToShow, this, show(QStringLiteral("frmProjectList")));
@@ -82,6 +104,9 @@ void frmMDI::buildMenu()
     connect(item(project, arrayName(QStringLiteral("mnuProjectOptions"), 4), QStringLiteral("&Save")),
             &QAction::triggered, this, [this] {
                 guarded(m_session, {ErrForm::Shared, QStringLiteral("mnuProjectOptions_Click")}, [&] {
+                    // A new project whose file name was not given before is asked for one again.
+                    if (m_session.gProject->Mode == QLatin1String("Add") && m_session.gProject->FileName.isEmpty())
+                        m_session.gProject->FileName = QStringLiteral("*.NAV");
                     m_session.gProject->Save();
                     m_session.gProject->SetCmd(true);
                 });
@@ -90,9 +115,13 @@ void frmMDI::buildMenu()
 
     QMenu *entry = menuBar()->addMenu(QStringLiteral("&Data Entry"));
     entry->setObjectName(QStringLiteral("mnuDataEntry"));
-    connect(item(entry, QStringLiteral("mnuReferences"), QStringLiteral("References")), &QAction::triggered, this,
-            show(QStringLiteral("frmSelect_Reference")));
-    connect(item(entry, QStringLiteral("mnuWldDE"), QStringLiteral("Wildlife Data Entry")), &QAction::triggered, this,
+    entry->setToolTipsVisible(true);
+    QAction *references = item(entry, QStringLiteral("mnuReferences"), QStringLiteral("References"));
+    connect(references, &QAction::triggered, this, show(QStringLiteral("frmSelect_Reference")));
+    requireWindow(references, QStringLiteral("frmSelect_Reference"));
+    QAction *wildlife = item(entry, QStringLiteral("mnuWldDE"), QStringLiteral("Wildlife Data Entry"));
+    requireWindow(wildlife, QStringLiteral("frmSelect_Species"));
+    connect(wildlife, &QAction::triggered, this,
             [this] {
                 if (ZobWindow *w = m_host.form(QStringLiteral("frmSelect_Species"))) {
                     w->setProperty("Entry", QStringLiteral("Menu"));
@@ -103,6 +132,7 @@ void frmMDI::buildMenu()
     entry->addSeparator()->setObjectName(QStringLiteral("mnuBar111"));
     QMenu *generic = entry->addMenu(QStringLiteral("Generic Data Entry"));
     generic->menuAction()->setObjectName(QStringLiteral("mnuWLDGenericData"));
+    generic->setToolTipsVisible(true);
     const struct { const char *name, *caption, *window, *key, *table; } pickers[] = {
         {"mnuIntakeModel", "Allometric Equations", "frmSelect_IntakeModel", "IntakeModelID", "tblIntakeModel"},
         {"mnuAE", "Assimilation Efficiency", "frmSelect_AE", "AEID", "tblAE"},
@@ -114,10 +144,13 @@ void frmMDI::buildMenu()
     for (const auto &p : pickers) {
         const QString window = QString::fromLatin1(p.window), key = QString::fromLatin1(p.key),
                       table = QString::fromLatin1(p.table);
-        connect(item(generic, QString::fromLatin1(p.name), QString::fromLatin1(p.caption)), &QAction::triggered, this,
-                [this, window, key, table] { openPicker(window, key, table); });
+        QAction *a = item(generic, QString::fromLatin1(p.name), QString::fromLatin1(p.caption));
+        connect(a, &QAction::triggered, this, [this, window, key, table] { openPicker(window, key, table); });
+        requireWindow(a, window);
     }
-    connect(item(entry, QStringLiteral("mnuLifeStage"), QStringLiteral("Life History")), &QAction::triggered, this,
+    QAction *lifeHistory = item(entry, QStringLiteral("mnuLifeStage"), QStringLiteral("Life History"));
+    requireWindow(lifeHistory, QStringLiteral("frmSearch_LifeHistory"));
+    connect(lifeHistory, &QAction::triggered, this,
             [this] {
                 if (ZobWindow *w = m_host.form(QStringLiteral("frmSearch_LifeHistory")))
                     w->PuS_SetRecord(0, QStringLiteral("NA"), QStringLiteral("NA"), QString());
@@ -169,6 +202,8 @@ void frmMDI::Form_Load()
     guarded(m_session, {ErrForm::Shared, QStringLiteral("NetworkUserName")}, [&] {
         m_session.gProject = std::make_shared<clsProject>(m_session);
         m_session.gScenario = std::make_shared<clsScenario>(m_session);
+        for (const LoadHook &hook : loadHooks())
+            hook(m_session, m_host);
         setWindowTitle(captionText());
         if (m_session.startUser()) {
             m_host.show(QStringLiteral("frmProjectList"));

@@ -2,6 +2,9 @@
 #pragma once
 
 #include <QMainWindow>
+#include <QVector>
+
+#include <functional>
 
 class QAction;
 class QMdiArea;
@@ -24,6 +27,11 @@ public:
     //! A menu item by its control name ("mnuExit", "mnuProjectOptions(4)"), null if none.
     QAction *menuItem(const QString &name) const;
 
+    //! Something the window layers need done once the project and scenario objects exist and before
+    //! the first window shows (linking the objects to their windows, the file chooser service).
+    using LoadHook = std::function<void(Session &, QtWindowHost &)>;
+    static void addLoadHook(LoadHook hook);
+
 protected:
     //! Closing the main window unloads every loaded window in turn; one that refuses keeps it open.
     void closeEvent(QCloseEvent *event) override;
@@ -32,6 +40,9 @@ private:
     void buildMenu();
     void updateProjectItems();
     void openPicker(const QString &window, const QString &keyField, const QString &table);
+    //! Disables an item whose window is not part of this program yet, and says so in its tool tip.
+    void requireWindow(QAction *item, const QString &window);
+    static QVector<LoadHook> &loadHooks();
     QAction *item(QMenu *menu, const QString &name, const QString &caption);
 
     Session &m_session;

@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "ZobWindow.h"
+
+class DataControl;
+class DataGrid;
+class QLabel;
+
+//! The first window of a known user: every project, sortable by any column, with commands to make a
+//! new project, open the selected one and delete one with its marker file (the Delete key).
+class frmProjectList : public ZobWindow {
+    Q_OBJECT
+public:
+    frmProjectList(Session &session, QtWindowHost &host);
+
+    void Form_Load() override;
+    //! Reads the list again, so that projects saved or deleted elsewhere show.
+    void Form_Activate() override;
+
+    //! Reads the projects again in the current order.
+    void refreshList();
+
+private:
+    void sortBy(const QString &field);
+    void TB_MDI_ButtonClick(int index);
+    void openSelected();
+    void deleteSelected();
+    void dcMain_Reposition();
+
+    DataControl *m_dcMain;
+    DataGrid *m_ssGrdMain;
+    QLabel *m_lblNoRecords;
+    QString m_sortField = QStringLiteral("Name");
+};
