@@ -429,11 +429,13 @@ void frmProject::linkScenario(bool link)
     try {
         if (link) {
             auto rs = session().gDB->OpenRecordset(QStringLiteral("jtblProjectScenario"), RecordsetType::Dynaset);
-            const FileChoice choice = session().fileChooser ? session().fileChooser->choose(sFileName.right(3), QStringLiteral("Open"))
-                                                            : FileChoice{};
-            // Nothing chosen: nothing to link.
-            if (!choice.saveFile || choice.file.isEmpty())
+            // Picking a scenario file in the chooser makes it the current scenario.
+            if (session().fileChooser)
+                session().fileChooser->choose(sFileName.right(3), QStringLiteral("Open"));
+            if (session().gScenario->SID == 0) {
+                session().msgBox(QStringLiteral("Please select a scenario..."), QString(), MsgIcon::Information);
                 return;
+            }
             rs->AddNew();
             rs->setField(QStringLiteral("ProjectID"), project.PID);
             rs->setField(QStringLiteral("ScenarioID"), session().gScenario->SID);
@@ -444,8 +446,14 @@ void frmProject::linkScenario(bool link)
                                        .arg(project.PID)
                                        .arg(session().gScenario->SID));
         }
-        if (!m_dcScenario->recordSource().isEmpty())
+        if (!m_dcScenario->recordSource().isEmpty()) {
             m_dcScenario->Refresh();
+            // The row now shown is the scenario the next command acts on.
+            if (m_dcScenario->currentRow() >= 0)
+                scenarioRowChosen();
+            else
+                m_txtScenarioDescription->clear();
+        }
     } catch (const VbError &e) {
         if (e.number() == VbErr::DuplicateKey) {
             session().resetCursor();
