@@ -328,6 +328,7 @@ void frmProject::setScenarioSource(const QString &sql)
     m_dcScenario->setDatabase(session().gDB);
     m_dcScenario->setRecordSource(sql);
     m_dcScenario->Refresh();
+    m_ssGrdProjectScenarios->resizeColumnsToContents();
 }
 
 void frmProject::followProject()

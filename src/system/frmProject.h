@@ -20,6 +20,7 @@ public:
     void Form_Load() override;
     void Form_Activate() override;
     void Form_Unload(bool &cancel) override;
+    QSize sizeHint() const override { return QWidget::sizeHint().expandedTo({820, 640}); }
     //! F1 asks help at the number of the control that has the focus.
     bool Form_KeyDown(int keyCode, int shift) override;
 

@@ -18,6 +18,16 @@ namespace {
 const WindowRegistration<frmProjectList> reg(QStringLiteral("frmProjectList"));
 
 //! The current row of a data control's recordset; a list without rows has no current record.
+//! Columns as wide as their contents, but none wider than a third of the grid's default width.
+void fitColumns(DataGrid *grid)
+{
+    grid->resizeColumnsToContents();
+    const int widest = grid->fontMetrics().horizontalAdvance(QLatin1Char('M')) * 24;
+    for (int c = 0; c < grid->model()->columnCount(); ++c)
+        if (grid->columnWidth(c) > widest)
+            grid->setColumnWidth(c, widest);
+}
+
 Recordset &currentRecord(DataControl *dc)
 {
     Recordset *rs = dc->recordset();
@@ -108,6 +118,7 @@ void frmProjectList::sortBy(const QString &field)
         m_dcMain->setRecordSource(QStringLiteral("Select * from tblProject Order by ") + field);
         m_dcMain->Refresh();
         m_sortField = field;
+        fitColumns(m_ssGrdMain);
     });
 }
 

@@ -17,6 +17,7 @@ public:
     void Form_Load() override;
     //! Reads the list again, so that projects saved or deleted elsewhere show.
     void Form_Activate() override;
+    QSize sizeHint() const override { return {760, 420}; }
 
     //! Reads the projects again in the current order.
     void refreshList();

@@ -247,8 +247,17 @@ void frmSetup::Form_Load()
         m_ssGrdUser->setColumnCaption(QStringLiteral("EMail"), QStringLiteral("E-Mail"));
         m_ssGrdReport->setColumnCaption(QStringLiteral("ReportHeader1"), QStringLiteral("Report Header 1"));
         m_ssGrdReport->setColumnCaption(QStringLiteral("ReportHeader2"), QStringLiteral("Report Header 2"));
-        for (DataGrid *grid : {m_ssGrdUser, m_ssGrdReport})
-            grid->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+        // Every caption readable: columns as wide as their captions, the last one taking what is left.
+        for (DataGrid *grid : {m_ssGrdUser, m_ssGrdReport}) {
+            grid->horizontalHeader()->setSectionResizeMode(QHeaderView::Interactive);
+            grid->horizontalHeader()->setStretchLastSection(true);
+            grid->resizeColumnsToContents();
+            const int least = grid->fontMetrics().horizontalAdvance(QLatin1Char('M')) * 8;
+            for (int c = 0; c < grid->model()->columnCount(); ++c)
+                grid->setColumnWidth(c, std::max(grid->columnWidth(c), least));
+        }
+        m_ssGrdReport->setColumnWidth(m_dcUser->fieldIndex(QStringLiteral("ReportHeader1")),
+                                      m_ssGrdReport->fontMetrics().horizontalAdvance(QLatin1Char('M')) * 24);
 
         m_dcComments->setRecordSource(QStringLiteral("Select Comment from tblComments where UserID = %1").arg(session().gUserID));
         m_dcComments->Refresh();

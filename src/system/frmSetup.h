@@ -24,6 +24,7 @@ public:
     frmSetup(Session &session, QtWindowHost &host);
 
     void Form_Load() override;
+    QSize sizeHint() const override { return QWidget::sizeHint().expandedTo({820, 600}); }
     //! While a table row is being edited, asks "Cancel changes ?"; No keeps the window.
     void Form_Unload(bool &cancel) override;
 

@@ -11,6 +11,7 @@
 #include <QAction>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QStyle>
 #include <QTextEdit>
 
 namespace {
@@ -49,6 +50,10 @@ frmZoom::frmZoom(Session &session, QtWindowHost &host) : ZobWindow(session, host
     tb->addButton(QStringLiteral("Smaller"), QStringLiteral("Smaller text"), QStringLiteral("A-"));
     tb->addSeparatorButton();
     tb->addButton(QStringLiteral("Help"), QStringLiteral("Help"), QStringLiteral("Help"));
+    tb->button(2)->setIcon(style()->standardIcon(QStyle::SP_LineEditClearButton));
+    tb->button(4)->setIcon(style()->standardIcon(QStyle::SP_DialogOkButton));
+    tb->button(6)->setIcon(style()->standardIcon(QStyle::SP_ArrowUp));
+    tb->button(8)->setIcon(style()->standardIcon(QStyle::SP_ArrowDown));
     m_txtZoom = b.memo(QStringLiteral("txtZoom"));
     m_txtZoom->setTabChangesFocus(false);
     FormBuilder::userTyped(m_txtZoom);
