@@ -37,6 +37,35 @@ ColumnKind kindOf(const QString &declType)
     return ColumnKind::Other;
 }
 
+//! Reads the stored form "yyyy-MM-dd HH:mm:ss" (or a date alone) without the general date parser,
+//! which is slow enough to show in grids of many rows.
+QDateTime parseStoredDate(const QString &text)
+{
+    if (text.size() != 10 && text.size() != 19)
+        return {};
+    auto num = [&](int from, int len) {
+        int v = 0;
+        for (int i = from; i < from + len; ++i) {
+            const QChar c = text.at(i);
+            if (!c.isDigit())
+                return -1;
+            v = v * 10 + c.digitValue();
+        }
+        return v;
+    };
+    if (text.at(4) != QLatin1Char('-') || text.at(7) != QLatin1Char('-'))
+        return {};
+    const QDate date(num(0, 4), num(5, 2), num(8, 2));
+    if (!date.isValid())
+        return {};
+    if (text.size() == 10)
+        return date.startOfDay();
+    if (text.at(10) != QLatin1Char(' ') || text.at(13) != QLatin1Char(':') || text.at(16) != QLatin1Char(':'))
+        return {};
+    const QTime time(num(11, 2), num(14, 2), num(17, 2));
+    return time.isValid() ? QDateTime(date, time) : QDateTime();
+}
+
 QVariant readValue(sqlite3_stmt *stmt, int col, ColumnKind kind)
 {
     switch (sqlite3_column_type(stmt, col)) {
@@ -56,7 +85,7 @@ QVariant readValue(sqlite3_stmt *stmt, int col, ColumnKind kind)
         const QString text = QString::fromUtf8(reinterpret_cast<const char *>(sqlite3_column_text(stmt, col)),
                                                sqlite3_column_bytes(stmt, col));
         if (kind == ColumnKind::Date) {
-            QDateTime dt = QDateTime::fromString(text, kDateFormat);
+            QDateTime dt = parseStoredDate(text);
             if (!dt.isValid())
                 dt = QDateTime::fromString(text, Qt::ISODate);
             if (dt.isValid())

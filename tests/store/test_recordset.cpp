@@ -70,6 +70,16 @@ TEST_F(RecordsetTest, FieldsAreCaseInsensitiveTypedAndNullable)
     EXPECT_EQ(errorNumber([&] { rs->field(QStringLiteral("Nope")); }), VbErr::ItemNotFound);
     rs->MoveLast();
     EXPECT_TRUE(rs->field(QStringLiteral("Amount")).isNull());
+
+    // Dates go in as date-times and come back as such; a date alone is midnight.
+    rs->Edit();
+    rs->setField(QStringLiteral("Added"), QDate(2026, 2, 28));
+    rs->Update();
+    EXPECT_EQ(rs->field(QStringLiteral("Added")).toDateTime(), QDateTime(QDate(2026, 2, 28), QTime(0, 0)));
+    rs->Edit();
+    rs->setField(QStringLiteral("Added"), QDateTime(QDate(2026, 11, 22), QTime(15, 4, 5)));
+    rs->Update();
+    EXPECT_EQ(rs->field(QStringLiteral("Added")).toDateTime(), QDateTime(QDate(2026, 11, 22), QTime(15, 4, 5)));
 }
 
 TEST_F(RecordsetTest, AddNewShowsAutonumberAndDefaultsBeforeUpdate)
