@@ -59,14 +59,16 @@ bool CalculateDietPorportion(Session &s, bool isWet)
         if (total == 0.0)
             throw VbError::divisionByZero();
         const double factor = 1.0 / total;
-        // Each row is scaled from the same numbers the database summed.
+        // A proportion is read as a single and scaled by the double factor; the product's decimal text
+        // decides the rounding, so 0.247 of a total of 2 gives .123 (0.1234999...), not .124.
         while (!rows->EOF_()) {
             rows->Edit();
             const QVariant value = rows->field(field);
             if (value.isNull())
                 rows->setField(field, 0);
             else
-                rows->setField(field, vb::vbFormat(vb::CDbl(value) * factor, QStringLiteral("#.000")));
+                rows->setField(field, vb::vbFormat(static_cast<double>(vb::CSng(value)) * factor,
+                                                   QStringLiteral("#.000")));
             rows->Update();
             rows->MoveNext();
         }

@@ -63,8 +63,26 @@ TEST_F(CalculateDietPorportionTest, RescalesTheChosenBasisOnly)
     EXPECT_TRUE(shown().isEmpty());
 
     EXPECT_TRUE(CalculateDietPorportion(s, false));
-    EXPECT_EQ(doubles(proportions("Dry_Proportion")), (D{0.438, 0.563}));  // .4375 and .5625, ties away from zero
+    // 0.7 and 0.9 are read as singles (0.69999999 and 0.89999998): 0.4374999 and 0.5624999, below the tie
+    EXPECT_EQ(doubles(proportions("Dry_Proportion")), (D{0.437, 0.562}));
     EXPECT_EQ(doubles(proportions("Wet_Proportion")), (D{0.5, 0.5}));
+}
+
+TEST_F(CalculateDietPorportionTest, ReadsEachProportionAsASingle)
+{
+    // Total 2, factor 0.5. In double precision 0.247 * 0.5 is 0.1235, a tie that would give .124; the single
+    // 0.247 halves to 0.12349999..., which gives .123. 1.753 as a single lies above the tie either way.
+    item(1, QStringLiteral("a"), QStringLiteral("NULL"), QStringLiteral("0.247"));
+    item(2, QStringLiteral("b"), QStringLiteral("NULL"), QStringLiteral("1.753"));
+    EXPECT_TRUE(CalculateDietPorportion(s, false));
+    EXPECT_EQ(doubles(proportions("Dry_Proportion")), (D{0.123, 0.877}));
+
+    // Exact binary fractions are the same in both precisions, and their ties go away from zero.
+    sql(QStringLiteral("UPDATE tblWildlifeDietItems SET Dry_Proportion = CASE DietItemID WHEN 1 THEN 0.125 "
+                       "ELSE 1.875 END"));
+    EXPECT_TRUE(CalculateDietPorportion(s, false));
+    EXPECT_EQ(doubles(proportions("Dry_Proportion")), (D{0.063, 0.938}));
+    EXPECT_TRUE(shown().isEmpty());
 }
 
 TEST_F(CalculateDietPorportionTest, ThreeThirdsStayBelowOneAndRescaleAgain)
