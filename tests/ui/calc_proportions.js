@@ -74,6 +74,12 @@ test('ConvertWeightIs rounds a tie of its decimal text away from zero', () => {
     expect(calc.ConvertWeightIs(false, 0.0007, 50)).toBe(0);
 });
 
+test('ConvertWeightIs leaves a division by zero to its caller', () => {
+    expect(calc.ConvertWeightIs(true, 0.5, 100)).toBe(NaN);      // no number: the failure reached the script
+    expect(calc.lastError()).toContain('11');
+    expect(calc.ConvertWeightIs(false, 0.5, 100)).toBe(0);        // wet to dry at 100 % water is simply 0
+});
+
 test('CalculateDietPorportion rescales only the working basis and writes three decimals', () => {
     const sid = newScenario(1);
     const w = water(50);
