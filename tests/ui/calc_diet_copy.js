@@ -137,6 +137,17 @@ test('a later change of the reference does not reach the copy', () => {
     db.exec('Update tblTrophicLevel Set TrophicLevel = 2.5 Where TrophicLevelID = ' + levelA);
 });
 
+test('the item statement of the copies lists them by name with the water of their moisture row', () => {
+    const sid = session.scenario.SID;
+    db.exec('Update tblWildlifeDietItems Set WaterPercent = 1 Where ScenarioID = ' + sid);
+    const listed = db.query(diet.GetDietItemsSQL('User', sid));
+    expect(listed.map(r => r.Name)).toEqual(['Acorns', 'Ants', 'Beetles']);
+    expect(listed.map(r => r.WaterPercent)).toEqual([9.25, 61.5, 61.5]);
+    expect(listed.map(r => r.Wet_Proportion)).toEqual([0.35, 0.05, 0.4]);
+    db.exec('Update tblWildlifeDietItems Set WaterPercent = 61.5 Where ScenarioID = ' + sid);
+    db.exec("Update tblWildlifeDietItems Set WaterPercent = 9.25 Where Name = 'Acorns' And ScenarioID = " + sid);
+});
+
 test('UpdateDS marks a changed diet with 6 once, and only when told it changed', () => {
     const sid = session.scenario.SID;
     const ds = () => [rows('tblWildlife', sid)[0].DietDataSourceID, rows('tblWildlifeDiet', sid)[0].DataSourceID];
