@@ -77,6 +77,19 @@ ScriptRunner::~ScriptRunner()
     }
 }
 
+int ScriptRunner::finishAfterProgramEnd()
+{
+    if (m_finished.load())
+        return m_exitCode.load();
+    m_bridge.shutdown();
+    if (m_thread && !m_thread->wait(5000))
+        return 1;
+    m_finished = true;
+    const int code = m_scriptCode.load();
+    m_exitCode = code < 0 ? 1 : code;
+    return m_exitCode.load();
+}
+
 void ScriptRunner::exposeObject(const QString &name, QObject *object)
 {
     m_exposed.insert(name, object);
@@ -169,6 +182,7 @@ void ScriptRunner::runScript(const QString &path)
     const int failed = m_failed.load();
     printLine(QStringLiteral("%1 passed, %2 failed").arg(m_passed.load()).arg(failed + (uncaught ? 1 : 0)));
     const int code = (failed > 0 || uncaught) ? 1 : 0;
+    m_scriptCode = code;
     QMetaObject::invokeMethod(this, [this, code] { onFinished(code); }, Qt::QueuedConnection);
 }
 

@@ -36,6 +36,10 @@ public:
 
     //! The status of the finished script (-1 while it runs).
     int exitCode() const { return m_exitCode.load(); }
+
+    //! For a program that ended while its script still ran (Exit, Close): ends the script's pending
+    //! call, waits for the script to finish and gives its status, 1 when it did not finish.
+    int finishAfterProgramEnd();
     bool isFinished() const { return m_finished.load(); }
 
     //! Writes a line on standard output at once (thread-safe).
@@ -58,6 +62,7 @@ private:
     bool m_quitAfter = false;
     int m_timeout = 120;
     std::atomic<int> m_exitCode{-1};
+    std::atomic<int> m_scriptCode{-1};
     std::atomic<bool> m_finished{false};
     std::atomic<int> m_passed{0};
     std::atomic<int> m_failed{0};

@@ -96,6 +96,11 @@ int main(int argc, char *argv[])
 #ifdef ZOB_HAVE_AUTOMATION
     if (runner && runner->isFinished())
         return runner->exitCode() < 0 ? code : runner->exitCode();
+    // The program ended under the script (Exit, Close): its failures still decide the status.
+    if (runner) {
+        const int scriptCode = runner->finishAfterProgramEnd();
+        return scriptCode != 0 ? scriptCode : code;
+    }
 #endif
     return code;
 }
