@@ -89,8 +89,10 @@ double GetIntakeRate(Session &s, qint32 intakeModelId, float weight, const QStri
         const QVariant ucf = rs->field(QStringLiteral("UCF"));
         const float m = mmf.isNull() ? 1.0f : vb::CSng(mmf);
         const float u = ucf.isNull() ? 1.0f : vb::CSng(ucf);
-        const double a = vb::CDbl(rs->field(QStringLiteral("a")));
-        const double b = vb::CDbl(rs->field(QStringLiteral("b")));
+        // The coefficient and exponent are single-precision columns: the double arithmetic below starts
+        // from their single values, as it did on the engine that stored them as singles.
+        const double a = static_cast<double>(vb::CSng(rs->field(QStringLiteral("a"))));
+        const double b = static_cast<double>(vb::CSng(rs->field(QStringLiteral("b"))));
         rs->Close();
         const float w = toSingle(static_cast<double>(factor) * static_cast<double>(weight));
         const float base = toSingle(static_cast<double>(u) * (a * power(static_cast<double>(w), b)));

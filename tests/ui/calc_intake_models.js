@@ -23,10 +23,11 @@ function errorBoxes(routine) {
     return ui.messages().filter(m => m.text.indexOf('Error in routine ' + routine + '\r\n\r\n') === 0);
 }
 
-// base = U * (a * (F * weight) ^ b), the weight product and the result in single precision
+// base = U * (a * (F * weight) ^ b): a and b are single-precision columns, the power is taken in double
+// precision from their single values, and the weight product and the result are rounded to single
 function base(a, b, factor, ucf, weight) {
     const w = Math.fround(Math.fround(factor) * Math.fround(weight));
-    return Math.fround(Math.fround(ucf) * (a * Math.pow(w, b)));
+    return Math.fround(Math.fround(ucf) * (Math.fround(a) * Math.pow(w, Math.fround(b))));
 }
 
 const kg = unit('kg', 0.001);
