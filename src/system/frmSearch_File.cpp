@@ -136,7 +136,7 @@ frmSearch_File::frmSearch_File(Session &session, QtWindowHost &host)
     });
     connect(m_FileMain, &QListWidget::currentRowChanged, this, [this](int row) {
         if (row >= 0)
-            GetSelection(true);
+            GetSelection();
     });
     connect(ControlEvents::of(m_FileMain), &ControlEvents::DblClick, this, [this] {
         if (m_FileMain->currentItem())
@@ -262,17 +262,11 @@ QString frmSearch_File::selectedFileName() const
     return {};
 }
 
-void frmSearch_File::GetSelection(bool fromList)
+void frmSearch_File::GetSelection()
 {
     if (Action != QLatin1String("Open")) {
-        // Naming a file: a click on an existing file offers its name for overwriting.
-        if (QListWidgetItem *item = m_FileMain->currentItem(); item && fromList)
-            m_txtSelectedFile->setText(QFileInfo(item->text()).completeBaseName());
-        QString name = m_txtSelectedFile->text().trimmed();
-        const QString extension = QLatin1Char('.') + FileType;
-        if (!name.endsWith(extension, Qt::CaseInsensitive))
-            name += extension;
-        File = name;
+        // Naming a file: the typed text with the type as extension, whatever the text already ends in.
+        File = m_txtSelectedFile->text() + QLatin1Char('.') + FileType;
         return;
     }
     File = selectedFileName();
@@ -286,11 +280,6 @@ void frmSearch_File::GetSelection(bool fromList)
 void frmSearch_File::cmdControl_Click(int index)
 {
     if (index == 0) {
-        if (Action != QLatin1String("Open") && m_txtSelectedFile->text().trimmed().isEmpty()) {
-            session().msgBox(QStringLiteral("Please enter a file name."), caption(), MsgIcon::Information);
-            m_txtSelectedFile->setFocus();
-            return;
-        }
         GetSelection();
         SaveFile = true;
     } else {

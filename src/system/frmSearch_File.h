@@ -51,8 +51,8 @@ signals:
     void finished(const FileChoice &choice);
 
 private:
-    //! Takes the chosen or typed name; fromList: a file of the list was just picked.
-    void GetSelection(bool fromList = false);
+    //! Takes the chosen name (Open) or the typed name with the type as extension (Save).
+    void GetSelection();
     void cmdControl_Click(int index);
     void showFolder(const QString &folder);
     void fillFiles();

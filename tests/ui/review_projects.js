@@ -259,3 +259,21 @@ test('with its marker file missing the row stays and the error shows in the deve
     expect(grid.rowCount).toBe(1);
     expect(ui.cursor()).toBe('default');
 });
+
+test('the chooser names a saved file by the typed text plus the type, and OK takes an empty box too', () => {
+    ui.menu('mnuProjectOptions(0)').trigger();
+    ui.window('frmProject').control('txtProject(0)').setText('Kingfisher Bend');
+    saveThroughChooser('kingfisher.NAV');
+    expect(projects('Kingfisher Bend')[0].FileName).toBe('kingfisher.NAV.NAV');
+    expect(fs.exists('tester/Project/kingfisher.NAV.NAV')).toBeTruthy();
+    ui.window('frmProject').toolbar().click('Close');
+
+    ui.menu('mnuProjectOptions(0)').trigger();
+    ui.window('frmProject').control('txtProject(0)').setText('Nameless File');
+    ui.clearMessages();
+    saveThroughChooser('');
+    expect(texts()).toEqual(['Project has been saved successfully']);
+    expect(projects('Nameless File')[0].FileName).toBe('.NAV');
+    expect(fs.exists('tester/Project/.NAV')).toBeTruthy();
+    ui.window('frmProject').toolbar().click('Close');
+});
