@@ -176,6 +176,8 @@ frmProject::frmProject(Session &session, QtWindowHost &host) : ZobWindow(session
 
     connect(tb, &ZobToolbar::ButtonClick, this, [this](int, const QString &key) { TB_MDI_ButtonClick(key); });
     connect(m_ssGrdProjectScenarios, &DataGrid::RowColChange, this, [this](int, int) { scenarioRowChosen(); });
+    // Each reading of the scenarios fits the columns to what they now hold.
+    connect(m_dcScenario, &DataControl::refreshed, m_ssGrdProjectScenarios, &QTableView::resizeColumnsToContents);
     connect(m_dcScenario, &DataControl::Reposition, this, [this] {
         const int row = m_dcScenario->currentRow();
         if (row >= 0 && !m_dcScenario->value(row, QStringLiteral("Scenario_FileName")).isNull())
@@ -328,7 +330,6 @@ void frmProject::setScenarioSource(const QString &sql)
     m_dcScenario->setDatabase(session().gDB);
     m_dcScenario->setRecordSource(sql);
     m_dcScenario->Refresh();
-    m_ssGrdProjectScenarios->resizeColumnsToContents();
 }
 
 void frmProject::followProject()

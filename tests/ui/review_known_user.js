@@ -23,6 +23,10 @@ if (!secondStart) {
         expect(db.query("Select * from tblProject where Name = 'Heron Marsh'").length).toBe(1);
         expect(fs.exists('tester/Project/heron.NAV')).toBeTruthy();
     });
+
+    test('first start: the stored spelling of the name is changed for the next start', () => {
+        expect(db.exec("Update tblUser Set User = 'TesTer' Where UserID = " + session.userId)).toBe(1);
+    });
 } else {
     test('second start: a known user is not welcomed and gets the project list', () => {
         expect(ui.messages().length).toBe(0);
@@ -34,9 +38,13 @@ if (!secondStart) {
     });
 
     test('second start: no second user row, comments or folders are made', () => {
-        expect(db.query("Select * from tblUser where User = 'tester'").length).toBe(1);
+        expect(db.query('Select * from tblUser').length).toBe(1);
         expect(db.query('Select * from tblComments where UserID = ' + session.userId).length).toBe(4);
         expect(session.userId).toBe(db.query("Select UserID from tblUser where User = 'tester'")[0].UserID);
+    });
+
+    test('second start: a login that differs only in case is the same user, with the stored spelling', () => {
+        expect(session.user).toBe('TesTer');
     });
 
     test('second start: the list shows the project of the first start without the empty-list label', () => {
