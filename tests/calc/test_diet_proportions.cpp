@@ -27,6 +27,11 @@ TEST(ConvertWeightIs, RoundsToThreeDecimalsThroughText)
         {false, 0.3333f, 0.0f, 0.333f},
         {true, 0.5f, 20.0f, 0.625f},
         {false, 2.0f, 110.0f, -0.2f},
+        {false, 0.333f, 70.0f, 0.1f},     // 0.0999
+        {false, 0.0025f, 50.0f, 0.001f},  // 0.00125
+        {false, 0.005f, 50.0f, 0.003f},   // a hair below 0.0025 in binary, but its text is a tie
+        {false, 0.0007f, 50.0f, 0.0f},
+        {false, 0.0f, 80.0f, 0.0f},
     };
     for (const WeightCase &c : cases)
         EXPECT_EQ(ConvertWeightIs(c.valueIsDry, c.value, c.water), c.expected)
@@ -82,6 +87,13 @@ TEST_F(CalculateDietPorportionTest, ReadsEachProportionAsASingle)
                        "ELSE 1.875 END"));
     EXPECT_TRUE(CalculateDietPorportion(s, false));
     EXPECT_EQ(doubles(proportions("Dry_Proportion")), (D{0.063, 0.938}));
+
+    sql(QStringLiteral("DELETE FROM tblWildlifeDietItems"));
+    item(1, QStringLiteral("a"), QStringLiteral("NULL"), QStringLiteral("0.1"));
+    item(2, QStringLiteral("b"), QStringLiteral("NULL"), QStringLiteral("0.2"));
+    item(3, QStringLiteral("c"), QStringLiteral("NULL"), QStringLiteral("0.4"));
+    EXPECT_TRUE(CalculateDietPorportion(s, false));
+    EXPECT_EQ(doubles(proportions("Dry_Proportion")), (D{0.143, 0.286, 0.571}));
     EXPECT_TRUE(shown().isEmpty());
 }
 
@@ -161,16 +173,27 @@ TEST_F(ConvertDietProportionTest, UsesTheMoistureRowNotTheItemsOwnPercent)
     EXPECT_EQ(doubles(proportions("Wet_Proportion")), (D{0.4, 0.6, 0.0}));
 }
 
+TEST_F(ConvertDietProportionTest, RoundsTheSingleResultOfTheConversion)
+{
+    // 0.5 * 0.247 is the single whose shortest text is 0.1235, a tie: .124
+    water(1, QStringLiteral("50"));
+    item(1, QStringLiteral("a"), QStringLiteral("0.247"), QStringLiteral("NULL"), 1);
+    ConvertDietProportion(s, true, QStringLiteral("User"));
+    EXPECT_EQ(doubles(proportions("Dry_Proportion")), (D{0.124}));
+}
+
 TEST_F(ConvertDietProportionTest, PermModeSelectsByTheScenariosDiet)
 {
     water(1, QStringLiteral("50"));
     item(1, QStringLiteral("a"), QStringLiteral("0.4"), QStringLiteral("NULL"), 1);
     item(2, QStringLiteral("b"), QStringLiteral("0.4"), QStringLiteral("NULL"), 1, QStringLiteral("NULL"), 0, 0,
          QStringLiteral("NULL"), kSid + 1);
-    s.gScenario->DietID = 3;  // both rows belong to diet 3
+    item(3, QStringLiteral("other diet"), QStringLiteral("0.4"), QStringLiteral("0.9"), 1);
+    sql(QStringLiteral("UPDATE tblWildlifeDietItems SET DietID = 4 WHERE DietItemID = 3"));
+    s.gScenario->DietID = 3;  // rows 1 and 2 belong to diet 3
     ConvertDietProportion(s, true, QStringLiteral("Perm"));
     EXPECT_EQ(doubles(column(QStringLiteral("SELECT Dry_Proportion FROM tblWildlifeDietItems ORDER BY DietItemID"))),
-              (D{0.2, 0.2}));
+              (D{0.2, 0.2, 0.9}));
 }
 
 TEST_F(ConvertDietProportionTest, MissingMoistureStopsHalfWay)
@@ -250,6 +273,8 @@ TEST_F(GetH2OAvgTest, WeightsEachItemsWaterByItsProportionOnTheBasis)
     EXPECT_EQ(GetH2OAvg(s), 0.75f);  // known to two decimals only
     sql(QStringLiteral("UPDATE tblWildlifeDietItems SET WaterPercent = 75.5"));
     EXPECT_EQ(GetH2OAvg(s), 0.76f);  // .755 rounds away from zero
+    sql(QStringLiteral("UPDATE tblWildlifeDietItems SET WaterPercent = 50.5"));
+    EXPECT_EQ(GetH2OAvg(s), 0.51f);
     EXPECT_TRUE(shown().isEmpty());
 }
 
@@ -274,12 +299,21 @@ TEST_F(GetAvgTrophicLevelTest, PlainAverageOfTheScenarioOrTheReferenceDiet)
     // With any table name but tblDietItem the scenario's copies are averaged.
     EXPECT_EQ(GetAvgTrophicLevel(s, kSid, QStringLiteral("whatever")), QStringLiteral("2.75"));
     EXPECT_EQ(GetAvgTrophicLevel(s, kSid + 1, QStringLiteral("tblWildlifeDietItems")), QStringLiteral("0"));
+    item(3, QStringLiteral("c"), QStringLiteral("0.1"), QStringLiteral("0.1"), 0, QStringLiteral("NULL"), 0, 0,
+         QStringLiteral("3"));
+    EXPECT_EQ(GetAvgTrophicLevel(s, kSid, QStringLiteral("tblWildlifeDietItems")), QStringLiteral("2.83"));
+    item(4, QStringLiteral("d"), QStringLiteral("1"), QStringLiteral("1"), 0, QStringLiteral("NULL"), 0, 0,
+         QStringLiteral("3"), kSid + 1);
+    EXPECT_EQ(GetAvgTrophicLevel(s, kSid + 1, QStringLiteral("tblWildlifeDietItems")), QStringLiteral("3.00"));
 
-    sql(QStringLiteral("INSERT INTO tblTrophicLevel (TrophicLevelID, TrophicLevel) VALUES (1, 2), (2, 3), (3, 4.01);"
-                       "INSERT INTO tblDietItem (DietID, Name, TrophicLevelID) VALUES (5, 'x', 1), (5, 'y', 2), "
-                       "(5, 'no level', NULL), (5, 'dangling', 9), (6, 'z', 3)"));
+    sql(QStringLiteral("INSERT INTO tblTrophicLevel (TrophicLevelID, TrophicLevel) VALUES (1, 2), (2, 3), (3, 4.01), (4, 3.25);"
+                       "INSERT INTO tblDietItem (DietID, Name, TrophicLevelID, TrophicLevel) VALUES (5, 'x', 1, 9), "
+                       "(5, 'y', 2, 9), (5, 'no level', NULL, 9), (5, 'dangling', 9, 9), (6, 'z', 3, NULL), "
+                       "(7, 'tie', 1, NULL), (7, 'tie', 4, NULL)"));
+    // The items' own TrophicLevel plays no part; (2 + 3.25) / 2 = 2.625 is a tie that goes away from zero.
     EXPECT_EQ(GetAvgTrophicLevel(s, 5, QStringLiteral("tblDietItem")), QStringLiteral("2.50"));
     EXPECT_EQ(GetAvgTrophicLevel(s, 6, QStringLiteral("tblDietItem")), QStringLiteral("4.01"));
+    EXPECT_EQ(GetAvgTrophicLevel(s, 7, QStringLiteral("tblDietItem")), QStringLiteral("2.63"));
     EXPECT_EQ(GetAvgTrophicLevel(s, 4, QStringLiteral("tblDietItem")), QStringLiteral("0"));
     EXPECT_TRUE(shown().isEmpty());
 }

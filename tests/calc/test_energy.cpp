@@ -41,6 +41,11 @@ TEST_F(EnergyTest, MEavgUsesTheEnergyAndProportionOfOneBasis)
     item(3, QStringLiteral("no AE"), QStringLiteral("1"), QStringLiteral("1"), 0, QStringLiteral("NULL"), 99, 1);
     item(4, QStringLiteral("no GE"), QStringLiteral("1"), QStringLiteral("1"), 0, QStringLiteral("NULL"), 1, 99);
     EXPECT_EQ(GetMEAvg(s), 2.6f);
+    // The sum is not normalised by the proportions of the items that count: .8 * 5 * .3.
+    sql(QStringLiteral("UPDATE tblWildlifeDietItems SET AEID = 99 WHERE DietItemID = 2"));
+    EXPECT_EQ(GetMEAvg(s), 1.2f);
+    s.gScenario->DietType = 2;  // any type but 0 is the wet basis: .8 * 2 * .6
+    EXPECT_EQ(GetMEAvg(s), 0.96f);
     EXPECT_TRUE(noMessages());
 }
 
@@ -87,6 +92,10 @@ TEST_F(EnergyTest, FmrAndTdiRoundToTwoDecimals)
         {"1234.567", "1", 1234.57f, 1234.57f},
         {"5000", "2.5", 5000.0f, 2000.0f},
         {"100", "3", 100.0f, 33.33f},
+        {"100.006", "3", 100.01f, 33.34f},
+        {"100.004", "3", 100.0f, 33.33f},
+        {"2.01", "2", 2.01f, 1.01f},           // 1.005: a tie of the text goes away from zero
+        {"2469.14", "0.5", 2469.14f, 4938.28f},
         {"0", "3", 0.0f, 1.0f},                // FMR not set yet: 1.0 g/day
         {"-5", "3", -5.0f, 1.0f},
         {"100", "0.004", 100.0f, 1.0f},        // MEavg rounds to 0
@@ -128,6 +137,9 @@ TEST_F(EnergyTest, TdiWithoutDietItemsIsFmrAfterTheMessage)
     EXPECT_EQ(GetFMR_TDI(s, QStringLiteral("TDI")), 101.49f);
     ASSERT_EQ(shown().size(), 1);
     EXPECT_EQ(shown()[0].text, kNoItems);
+    sql(QStringLiteral("UPDATE tblIntakeZOB SET AdjustedRate = 0"));
+    EXPECT_EQ(GetFMR_TDI(s, QStringLiteral("TDI")), 1.0f);  // no FMR yet: 1.0 after the message
+    EXPECT_EQ(shown().size(), 2);
 }
 
 TEST_F(EnergyTest, DailyDryDietTakesWaterOutOnTheWetBasisOnly)

@@ -43,6 +43,7 @@ TEST_F(IntakeModelTest, EquationTextShowsOnlyTheFactorsThatMatter)
         model(++id, QLatin1String(c.a), QLatin1String(c.b), QLatin1String(c.ucf), QLatin1String(c.mmf), c.wtUnits);
         EXPECT_EQ(GetIntakeEquationText(s, id, QStringLiteral("Equation")), QLatin1String(c.expected));
         EXPECT_EQ(GetIntakeEquationText(s, id, QStringLiteral("Units")), QStringLiteral("kcal/day"));
+        EXPECT_EQ(GetIntakeEquationText(s, id, QStringLiteral("anything")), QStringLiteral("kcal/day"));
     }
     EXPECT_TRUE(shown().isEmpty());
 }
@@ -56,9 +57,13 @@ TEST_F(IntakeModelTest, MissingUnitsGiveNoDataButTheRateMayStillExist)
 
     model(2, QStringLiteral("1"), QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("3"), 99);  // no weight unit
     EXPECT_EQ(GetIntakeEquationText(s, 2, QStringLiteral("Equation")), QStringLiteral("No data available."));
+    EXPECT_EQ(GetIntakeEquationText(s, 2, QStringLiteral("Units")), QString());
     EXPECT_EQ(GetIntakeRate(s, 2, 1000.0f, QStringLiteral("Base")), 0.0);
+    model(3, QStringLiteral("1"), QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("3"), 15);  // no factor
+    EXPECT_EQ(GetIntakeEquationText(s, 3, QStringLiteral("Equation")), QStringLiteral("No data available."));
 
     EXPECT_EQ(GetIntakeEquationText(s, 42, QStringLiteral("Equation")), QString());
+    EXPECT_EQ(GetIntakeEquationText(s, 42, QStringLiteral("Units")), QString());
     EXPECT_EQ(GetIntakeRate(s, 42, 1000.0f, QStringLiteral("Base")), 0.0);
     EXPECT_TRUE(shown().isEmpty());
 }

@@ -1,32 +1,26 @@
-// Projects: the list, a new project saved through the file chooser with its marker file, reopened
-// through the chooser, edited and saved again, its scenarios linked and unlinked, and deleted with and
-// without its marker file.
+// Projects: the empty list, the required name, the first save through the chooser with its marker
+// file, the quiet second save, the zoomed description, "Save As..." doing nothing, reopening through the
+// chooser, clearing the project window, scenarios linked, linked twice and unlinked, the sorted list, and
+// deleting from the list by the Delete key with and without the marker file.
 
+const CRLF = '\r\n';
 const texts = () => ui.messages().map(m => m.text);
 const projectFolder = () => session.home + '/tester/Project';
-const markerLine = (id, name, author, purpose) =>
-    'Project ID: ' + id + ', Project Name: ' + name + ', Project Author: ' + author + ', Project Purpose: ' + purpose
-    + ', Date last modified: ';
+const markerLines = file => fs.read('tester/Project/' + file).split(/\r?\n/).filter(l => l.length);
+const projects = name => db.query("Select * from tblProject where Name = '" + name + "'");
 
-test('the main window has the whole menu; project commands wait for a project window', () => {
-    ui.window('frmSetup').close();
-    const captions = {
-        mnuIniSetup: '&Setup...', mnuExit: 'E&xit', 'mnuProjectOptions(0)': 'New...', 'mnuProjectOptions(1)': 'Open...',
-        'mnuProjectOptions(2)': 'Close', 'mnuProjectOptions(4)': '&Save', 'mnuProjectOptions(5)': 'Save &As...',
-        mnuReferences: 'References', mnuWldDE: 'Wildlife Data Entry', mnuWLDGenericData: 'Generic Data Entry',
-        mnuIntakeModel: 'Allometric Equations', mnuAE: 'Assimilation Efficiency', mnuGE: 'Gross Energy',
-        mnuWaterConversion: 'Moisture', mnuSoilIngestion: 'Soil Ingestion', mnuTrophicLevel: 'Trophic Level',
-        mnuLifeStage: 'Life History', mnuContents: '&Contents', mnuAboutTORM: '&About ...'};
-    for (const name of Object.keys(captions))
-        expect(ui.menu(name).caption).toBe(captions[name]);
-    for (const i of [2, 4, 5])
-        expect(ui.menu('mnuProjectOptions(' + i + ')').enabled).toBeFalsy();
-    expect(ui.menu('mnuIniSetup').enabled).toBeTruthy();
-    ui.menu('mnuContents').trigger();
-    expect(ui.helpTopic()).toBe(1501);
-});
+function saveThroughChooser(fileName) {
+    ui.window('frmProject').toolbar().click('Save');
+    const chooser = ui.window('frmSearch_File');
+    expect(chooser).not.toBeNull();
+    chooser.control('txtSelectedFile').setText(fileName);
+    chooser.control('cmdControl(0)').click();
+    expect(ui.windows()).not.toContain('frmSearch_File');
+}
 
 test('the project list of a user without projects shows the label; Open fails into the error box', () => {
+    ui.window('frmSetup').close();
+    db.exec("Update tblUser Set Name = 'Ann Reviewer' Where UserID = " + session.userId);
     ui.menu('mnuProject').trigger();
     const list = ui.window('frmProjectList');
     expect(list.control('lblNoRecords').visible).toBeTruthy();
@@ -38,20 +32,48 @@ test('the project list of a user without projects shows the label; Open fails in
     expect(ui.windows()).not.toContain('frmProject');
 });
 
-test('a project without a name is not stored', () => {
+test('the chooser lists files by the row of its type list, not by the row\'s words', () => {
+    ui.menu('mnuProjectOptions(1)').trigger();
+    const chooser = ui.window('frmSearch_File');
+    chooser.control('lstFileType').select('All(*.*)');
+    expect(chooser.control('FileMain').items).toEqual([]);
+    chooser.control('lstFileType').select('Project Wildlife File(*.NAV)');
+    expect(chooser.control('FileMain').items).toEqual([]);
+    expect(chooser.control('drvMain').items).toContain('/');
+    chooser.control('cmdHelp').click();
+    expect(ui.helpTopic()).toBe(3504);
+    chooser.control('cmdControl(1)').click();
+    expect(ui.windows()).not.toContain('frmProject');
+});
+
+test('a project without a name gets the warning word for word and is not stored', () => {
     ui.window('frmProjectList').toolbar().click(2);
     const p = ui.window('frmProject');
-    expect(ui.menu('mnuProjectOptions(4)').enabled).toBeTruthy();
+    expect(p.visible).toBeTruthy();
+    expect(session.project.Mode).toBe('Add');
+    expect(p.control('txtProject(2)').text).toBe('Ann Reviewer');
+    expect(p.control('txtProject(0)').text).toBe('');
     expect(p.control('cmdScenario(0)').enabled).toBeTruthy();
+    for (const i of [2, 4, 5])
+        expect(ui.menu('mnuProjectOptions(' + i + ')').enabled).toBeTruthy();
     ui.clearMessages();
     p.toolbar().click('Save');
-    expect(texts()).toEqual(['Please add a value for all required field(s)-(Project Name)']);
+    expect(ui.messages().length).toBe(1);
+    expect(ui.messages()[0].text).toBe('Please add a value for all required field(s)-(Project Name)');
+    expect(ui.messages()[0].icon).toBe('warning');
+    expect(ui.windows()).not.toContain('frmSearch_File');
     expect(db.query('Select * from tblProject').length).toBe(0);
+    expect(fs.list('tester/Project').length).toBe(0);
+    expect(ui.cursor()).toBe('default');
+    // The menu's Save is the same command.
+    ui.clearMessages();
+    ui.menu('mnuProjectOptions(4)').trigger();
+    expect(texts()).toEqual(['Please add a value for all required field(s)-(Project Name)']);
 });
 
 test('cancelling the chooser at the first save leaves no row and no file', () => {
     const p = ui.window('frmProject');
-    p.control('txtProject(0)').setText('Pond Site');
+    p.control('txtProject(0)').setText('Otter Creek');
     p.toolbar().click('Save');
     const chooser = ui.window('frmSearch_File');
     expect(chooser.caption).toBe('Open/Save Project');
@@ -60,46 +82,66 @@ test('cancelling the chooser at the first save leaves no row and no file', () =>
     expect(fs.list(projectFolder()).length).toBe(0);
 });
 
-test('a new project is saved through the chooser with its one-line marker file', () => {
+test('the first save goes through the chooser, stores the row and writes the one-line marker file', () => {
     const p = ui.window('frmProject');
-    p.control('txtProject(1)').setText('Mallards at the farm pond');
-    p.control('txtProject(5)').setText('Farm pond');
+    p.control('txtProject(1)').setText('River otters below the mill');
+    p.control('txtProject(3)').setText('44.5');
+    p.control('txtProject(4)').setText('-72.1');
+    p.control('txtProject(5)').setText('Mill reach');
+    p.control('txtProject(6)').setText('first pass');
     p.control('cboStateProvince').select('Alaska');
     ui.clearMessages();
     p.toolbar().click('Save');
     const chooser = ui.window('frmSearch_File');
+    expect(chooser.caption).toBe('Open/Save Project');
     expect(chooser.control('lstFileType').items).toEqual(
         ['All(*.*)', 'Species Scenario File(*.ZOB)', 'Project Wildlife File(*.NAV)']);
     expect(chooser.control('lstFileType').text).toBe('Project Wildlife File(*.NAV)');
-    chooser.control('txtSelectedFile').setText('pond');
+    chooser.control('txtSelectedFile').setText('otter');
     chooser.control('cmdControl(0)').click();
-    expect(texts()).toEqual(['Project has been saved successfully']);
+    expect(ui.messages().length).toBe(1);
+    expect(ui.messages()[0].text).toBe('Project has been saved successfully');
+    expect(ui.messages()[0].icon).toBe('information');
 
-    const rows = db.query('Select * from tblProject');
+    const rows = projects('Otter Creek');
     expect(rows.length).toBe(1);
-    expect(rows[0].Name).toBe('Pond Site');
-    expect(rows[0].FileName).toBe('pond.NAV');
-    expect(rows[0].Path).toBe(projectFolder());
-    expect(rows[0].Location).toBe('Farm pond');
-    expect(rows[0].StateProvinceID).toBe(db.query("Select StateProvinceID from tblStateProvince where Description = 'Alaska'")[0].StateProvinceID);
-    const text = fs.read('tester/Project/pond.NAV');
-    const lines = text.split(/\r?\n/).filter(l => l.length);
-    expect(lines.length).toBe(1);
-    expect(lines[0].indexOf(markerLine(rows[0].ProjectID, 'Pond Site', 'not found', 'Mallards at the farm pond'))).toBe(0);
-    expect(lines[0].charAt(lines[0].length - 1)).toBe(',');
+    const r = rows[0];
+    expect(r.Purpose).toBe('River otters below the mill');
+    expect(r.Author).toBe('Ann Reviewer');
+    expect(r.Latitude).toBe('44.5');
+    expect(r.Longitude).toBe('-72.1');
+    expect(r.Location).toBe('Mill reach');
+    expect(r.Comments).toBe('first pass');
+    expect(r.FileName).toBe('otter.NAV');
+    expect(r.Path).toBe(projectFolder());
+    expect(r.StateProvinceID).toBe(db.query("Select StateProvinceID from tblStateProvince where Description = 'Alaska'")[0].StateProvinceID);
+    expect(session.project.PID).toBe(r.ProjectID);
     expect(session.project.Mode).toBe('Edit');
-    expect(ui.window('frmProject').caption).toBe('Project: POND SITE');
+    expect(p.caption).toBe('Project: OTTER CREEK');
+
+    const lines = markerLines('otter.NAV');
+    expect(lines.length).toBe(1);
+    const m = /^Project ID: (\d+), Project Name: (.*), Project Author: (.*), Project Purpose: (.*), Date last modified: (.+),$/
+        .exec(lines[0]);
+    expect(m).not.toBeNull();
+    expect(Number(m[1])).toBe(r.ProjectID);
+    expect(m[2]).toBe('Otter Creek');
+    expect(m[3]).toBe('Ann Reviewer');
+    expect(m[4]).toBe('River otters below the mill');
+    expect(m[5]).toContain(String(new Date().getFullYear()));
+    expect(fs.list('tester/Project')).toEqual(['otter.NAV']);
 });
 
-test('a second save is quiet and rewrites the marker file', () => {
+test('the second save shows no message, asks for no file and rewrites the marker file', () => {
     const p = ui.window('frmProject');
-    p.control('txtProject(0)').setText('Pond Site North');
+    p.control('txtProject(1)').setText('Otters below the mill');
     ui.clearMessages();
     p.toolbar().click('Save');
     expect(ui.messages().length).toBe(0);
     expect(ui.windows()).not.toContain('frmSearch_File');
-    expect(db.query('Select Name from tblProject')[0].Name).toBe('Pond Site North');
-    expect(fs.read('tester/Project/pond.NAV')).toContain('Project Name: Pond Site North,');
+    expect(projects('Otter Creek').length).toBe(1);
+    expect(projects('Otter Creek')[0].Purpose).toBe('Otters below the mill');
+    expect(markerLines('otter.NAV')[0]).toContain(', Project Purpose: Otters below the mill, ');
 });
 
 test('the description zooms for editing and comes back into its box', () => {
@@ -107,12 +149,25 @@ test('the description zooms for editing and comes back into its box', () => {
     p.control('txtProject(1)').dblClick();
     const zoom = ui.window('frmZoom');
     expect(zoom.caption).toBe('Modify Text');
-    expect(zoom.control('txtZoom').text).toBe('Mallards at the farm pond');
+    expect(zoom.control('txtZoom').text).toBe('Otters below the mill');
     zoom.toolbar().click(6);
-    zoom.control('txtZoom').setText('Mallards and teal at the farm pond');
+    zoom.control('txtZoom').setText('Otters and mink below the mill');
     zoom.toolbar().click(4);
     expect(ui.window('frmZoom')).toBeNull();
-    expect(p.control('txtProject(1)').text).toBe('Mallards and teal at the farm pond');
+    expect(p.control('txtProject(1)').text).toBe('Otters and mink below the mill');
+});
+
+test('"Save As..." does nothing', () => {
+    const before = {
+        windows: ui.windows().slice().sort(), file: fs.read('tester/Project/otter.NAV'),
+        rows: JSON.stringify(db.query('Select * from tblProject')), files: fs.list('tester/Project')};
+    ui.clearMessages();
+    ui.menu('mnuProjectOptions(5)').trigger();
+    expect(ui.messages().length).toBe(0);
+    expect(ui.windows().slice().sort()).toEqual(before.windows);
+    expect(fs.read('tester/Project/otter.NAV')).toBe(before.file);
+    expect(JSON.stringify(db.query('Select * from tblProject'))).toBe(before.rows);
+    expect(fs.list('tester/Project')).toEqual(before.files);
 });
 
 test('closing the project window saves without a question and the list shows the project', () => {
@@ -121,27 +176,70 @@ test('closing the project window saves without a question and the list shows the
     expect(ui.messages().length).toBe(0);
     expect(ui.windows()).not.toContain('frmProject');
     expect(ui.menu('mnuProjectOptions(4)').enabled).toBeFalsy();
-    expect(db.query('Select Purpose from tblProject')[0].Purpose).toBe('Mallards and teal at the farm pond');
+    expect(db.query('Select Purpose from tblProject')[0].Purpose).toBe('Otters and mink below the mill');
     const list = ui.window('frmProjectList');
     expect(list.control('lblNoRecords').visible).toBeFalsy();
     expect(list.control('ssGrdMain').rowCount).toBe(1);
 });
 
-test('Open... shows the marker file\'s four lines before the project opens', () => {
+test('Open... shows the marker file\'s four items in the description box before the project opens', () => {
     ui.menu('mnuProjectOptions(1)').trigger();
     const chooser = ui.window('frmSearch_File');
-    expect(chooser.control('FileMain').items).toEqual(['pond.NAV']);
-    chooser.control('FileMain').select('pond.NAV');
-    const info = chooser.control('txtInfo').text;
-    expect(info.indexOf(' Project Name: Pond Site North\r\n Project Author: not found\r\n'
-                        + ' Project Purpose: Mallards and teal at the farm pond\r\n Date last modified: ')).toBe(0);
-    expect(info.split('\r\n').length).toBe(5);
-    expect(chooser.control('txtSelectedFile').text).toBe(projectFolder() + '/pond.NAV');
+    expect(chooser.caption).toBe('Open/Save Project');
+    expect(chooser.control('FileMain').items).toEqual(['otter.NAV']);
+    chooser.control('FileMain').select('otter.NAV');
+    const info = chooser.control('txtInfo').text.split(CRLF);
+    expect(info.length).toBe(5);
+    expect(info[0]).toBe(' Project Name: Otter Creek');
+    expect(info[1]).toBe(' Project Author: Ann Reviewer');
+    expect(info[2]).toBe(' Project Purpose: Otters and mink below the mill');
+    expect(info[3].indexOf(' Date last modified: ')).toBe(0);
+    expect(info[4]).toBe('');
+    expect(chooser.control('txtSelectedFile').text).toBe(projectFolder() + '/otter.NAV');
+    const pid = projects('Otter Creek')[0].ProjectID;
+    expect(session.project.PID).toBe(pid);
     chooser.control('cmdControl(0)').click();
     const p = ui.window('frmProject');
-    expect(p.control('txtProject(0)').text).toBe('Pond Site North');
-    expect(session.project.PID).toBe(db.query('Select ProjectID from tblProject')[0].ProjectID);
+    expect(p.control('txtProject(0)').text).toBe('Otter Creek');
+    expect(p.control('txtProject(1)').text).toBe('Otters and mink below the mill');
+    expect(p.control('txtProject(2)').text).toBe('Ann Reviewer');
+    expect(p.control('cmdScenario(0)').enabled).toBeTruthy();
+    expect(session.project.PID).toBe(pid);
     expect(session.project.Mode).toBe('Edit');
+});
+
+test('Open... clears the text boxes and combo of the project window and leaves labels and buttons alone', () => {
+    const p = ui.window('frmProject');
+    const buttonsBefore = [0, 1, 2, 3, 4, 5, 6].map(i => p.control('cmdScenario(' + i + ')').enabled);
+    ui.menu('mnuProjectOptions(1)').trigger();
+    const chooser = ui.window('frmSearch_File');
+    expect(chooser).not.toBeNull();
+    for (let i = 0; i <= 6; ++i)
+        expect(p.control('txtProject(' + i + ')').text).toBe('');
+    expect(p.control('cboStateProvince').text).toBe('');
+    expect(p.control('txtScenarioDescription').text).toBe('');
+    expect([0, 1, 2, 3, 4, 5, 6].map(i => p.control('cmdScenario(' + i + ')').enabled)).toEqual(buttonsBefore);
+    expect(p.control('cmdScenario(2)').caption).toBe('Close');
+    expect(session.project.PID).toBe(0);
+    expect(session.project.Mode).toBe('Edit');
+    chooser.control('cmdControl(1)').click();
+});
+
+test('a comma in the purpose shifts the items of the description box, and only four are shown', () => {
+    ui.menu('mnuProjectOptions(1)').trigger();
+    ui.window('frmSearch_File').control('FileMain').select('otter.NAV');
+    ui.window('frmSearch_File').control('cmdControl(0)').click();
+    const p = ui.window('frmProject');
+    p.control('txtProject(1)').setText('Otters, mink');
+    p.toolbar().click('Save');
+    ui.menu('mnuProjectOptions(1)').trigger();
+    const chooser = ui.window('frmSearch_File');
+    chooser.control('FileMain').select('otter.NAV');
+    const info = chooser.control('txtInfo').text.split(CRLF);
+    expect(info.slice(0, 4)).toEqual(
+        [' Project Name: Otter Creek', ' Project Author: Ann Reviewer', ' Project Purpose: Otters', ' mink']);
+    expect(info.length).toBe(5);
+    chooser.control('cmdControl(0)').click();
 });
 
 test('new wildlife scenarios join the project; the selected one shows its description', () => {
@@ -201,54 +299,105 @@ test('the list sorts by a clicked column', () => {
     list.close();
     ui.menu('mnuProject').trigger();
     const grid = ui.window('frmProjectList').control('ssGrdMain');
-    expect(grid.rows.map(r => r[0])).toEqual(['Alder Creek', 'Pond Site North']);
+    expect(grid.rows.map(r => r[0])).toEqual(['Alder Creek', 'Otter Creek']);
     grid.headClick('Author');
-    expect(grid.rows.map(r => r[0])).toEqual(['Pond Site North', 'Alder Creek']);
+    expect(grid.rows.map(r => r[0])).toEqual(['Otter Creek', 'Alder Creek']);
     grid.headClick('Project Name');
 });
 
 test('deleting a project whose marker file is missing fails at the file and keeps the row', () => {
-    const list = ui.window('frmProjectList');
-    const grid = list.control('ssGrdMain');
+    const grid = ui.window('frmProjectList').control('ssGrdMain');
     grid.selectRow(0);                                    // Alder Creek, no file on disk
     ui.clearMessages();
     ui.answer('Yes');
     grid.keyDown(46);
     const boxes = ui.messages();
+    expect(boxes.length).toBe(2);
     expect(boxes[0].text).toBe('Are you sure you want to delete this record ?');
     expect(boxes[0].icon).toBe('question');
     expect(boxes[0].buttons).toEqual(['Yes', 'No']);
     expect(boxes[0].defaultButton).toBe(2);
     expect(boxes[1].title).toBe('System Developer Message');
-    expect(boxes[1].text).toContain('Error in frmZOB.ssGrdMain_KeyDown');
-    expect(db.query("Select * from tblProject where Name = 'Alder Creek'").length).toBe(1);
+    expect(boxes[1].buttons).toEqual(['OK']);
+    const parts = boxes[1].text.split(CRLF);
+    expect(parts.length).toBe(3);
+    expect(/^\d+$/.test(parts[0])).toBeTruthy();
+    expect(parts[2]).toBe('Error in frmZOB.ssGrdMain_KeyDown');
+    expect(projects('Alder Creek').length).toBe(1);
+    expect(grid.rowCount).toBe(2);
+    expect(ui.cursor()).toBe('default');
 });
 
-test('No keeps the project; Yes deletes its row and its marker file', () => {
-    const grid = ui.window('frmProjectList').control('ssGrdMain');
-    grid.selectRow(1);                                    // Pond Site North
-    ui.answer('No');
+test('a second project links the current scenario once; the second Link is refused word for word', () => {
+    const sid = session.scenario.SID;
+    ui.menu('mnuProjectOptions(0)').trigger();
+    ui.window('frmProject').control('txtProject(0)').setText('Beaver Pond');
+    saveThroughChooser('beaver');
+    const pid2 = projects('Beaver Pond')[0].ProjectID;
+    const q = ui.window('frmProject');
+    const linked = () => db.query('Select * from jtblProjectScenario where ProjectID = ' + pid2 + ' and ScenarioID = ' + sid);
+    ui.clearMessages();
+    q.control('cmdScenario(0)').click();
+    ui.window('frmSearch_File').control('cmdControl(1)').click();
+    expect(ui.messages().length).toBe(0);
+    expect(linked().length).toBe(1);
+    expect(q.control('ssGrdProjectScenarios').rowCount).toBe(1);
+    q.control('cmdScenario(0)').click();
+    ui.window('frmSearch_File').control('cmdControl(1)').click();
+    expect(texts()).toEqual(['This scenario is already linked to the project. ']);
+    expect(linked().length).toBe(1);
+    expect(ui.cursor()).toBe('default');
+    q.toolbar().click('Close');
+});
+
+test('Delete in the list asks with No as default; No keeps the project and its file', () => {
+    ui.menu('mnuProject').trigger();
+    const list = ui.window('frmProjectList');
+    const grid = list.control('ssGrdMain');
+    expect(grid.rowCount).toBe(3);
+    const row = grid.rows.findIndex(r => r.indexOf('Beaver Pond') >= 0);
+    grid.selectRow(row);
+    ui.clearMessages();
     grid.keyDown(46);
-    expect(fs.exists('tester/Project/pond.NAV')).toBeTruthy();
+    const boxes = ui.messages();
+    expect(boxes.length).toBe(1);
+    expect(boxes[0].text).toBe('Are you sure you want to delete this record ?');
+    expect(boxes[0].icon).toBe('question');
+    expect(boxes[0].buttons).toEqual(['Yes', 'No']);
+    expect(boxes[0].answer).toBe('No');
+    expect(projects('Beaver Pond').length).toBe(1);
+    expect(fs.exists('tester/Project/beaver.NAV')).toBeTruthy();
+});
+
+test('Yes deletes the marker file and the row, and leaves the scenario links', () => {
+    const grid = ui.window('frmProjectList').control('ssGrdMain');
+    const pid2 = projects('Beaver Pond')[0].ProjectID;
+    ui.clearMessages();
     ui.answer('Yes');
     grid.keyDown(46);
-    expect(fs.exists('tester/Project/pond.NAV')).toBeFalsy();
-    expect(db.query("Select * from tblProject where Name = 'Pond Site North'").length).toBe(0);
-    expect(grid.rows.map(r => r[0])).toEqual(['Alder Creek']);
+    expect(ui.messages().length).toBe(1);
+    expect(fs.exists('tester/Project/beaver.NAV')).toBeFalsy();
+    expect(projects('Beaver Pond').length).toBe(0);
+    expect(grid.rows.map(r => r[0])).toEqual(['Alder Creek', 'Otter Creek']);
+    expect(db.query('Select * from jtblProjectScenario where ProjectID = ' + pid2).length).toBe(1);
     // The scenarios of a deleted project stay.
     expect(db.query('Select * from tblScenario').length).toBe(2);
 });
 
-test('the chooser lists files by the row of its type list, not by the row\'s words', () => {
-    ui.menu('mnuProjectOptions(1)').trigger();
-    const chooser = ui.window('frmSearch_File');
-    chooser.control('lstFileType').select('All(*.*)');
-    expect(chooser.control('FileMain').items).toEqual([]);
-    chooser.control('lstFileType').select('Project Wildlife File(*.NAV)');
-    expect(chooser.control('FileMain').items).toEqual([]);
-    expect(chooser.control('drvMain').items).toContain('/');
-    chooser.control('cmdHelp').click();
-    expect(ui.helpTopic()).toBe(3504);
-    chooser.control('cmdControl(1)').click();
-    expect(ui.windows()).not.toContain('frmProject');
+test('the chooser names a saved file by the typed text plus the type, and OK takes an empty box too', () => {
+    ui.menu('mnuProjectOptions(0)').trigger();
+    ui.window('frmProject').control('txtProject(0)').setText('Kingfisher Bend');
+    saveThroughChooser('kingfisher.NAV');
+    expect(projects('Kingfisher Bend')[0].FileName).toBe('kingfisher.NAV.NAV');
+    expect(fs.exists('tester/Project/kingfisher.NAV.NAV')).toBeTruthy();
+    ui.window('frmProject').toolbar().click('Close');
+
+    ui.menu('mnuProjectOptions(0)').trigger();
+    ui.window('frmProject').control('txtProject(0)').setText('Nameless File');
+    ui.clearMessages();
+    saveThroughChooser('');
+    expect(texts()).toEqual(['Project has been saved successfully']);
+    expect(projects('Nameless File')[0].FileName).toBe('.NAV');
+    expect(fs.exists('tester/Project/.NAV')).toBeTruthy();
+    ui.window('frmProject').toolbar().click('Close');
 });

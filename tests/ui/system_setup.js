@@ -1,36 +1,46 @@
-// A new user's first start lands in the setup window: his paths, comments, user and report fields,
-// the diagnostics level, and the editor of the small lookup tables.
+// The setup window: its tabs and help numbers, the path boxes and the folder chooser, the comments with
+// an apostrophe, the user and report grids, the diagnostics level, and the table editor: its list, record
+// position, required fields, protected tables, the user filter of the comments table, closing during an
+// edit, and OK keeping the typed paths.
 
-const setup = () => ui.window('frmSetup');
 const texts = () => ui.messages().map(m => m.text);
+const setup = () => ui.window('frmSetup');
+const cmd = i => setup().control('cmdTables(' + i + ')');
 
-test('a new user is welcomed and then sees the setup window', () => {
-    expect(texts()[0]).toContain('Please complete ZOB Setup Information before proceeding.');
-    expect(ui.windows()).toContain('frmSetup');
-    expect(ui.windows()).not.toContain('frmProjectList');
-    expect(setup().caption).toBe('System Setup');
-    expect(setup().control('ssTabSetup').items).toEqual(
+function chooseTable(name) {
+    setup().control('ssTabSetup').selectTab(4);
+    setup().control('LstTables').select(name);
+}
+
+test('the five tabs carry their captions and the first four their help numbers', () => {
+    const tabs = setup().control('ssTabSetup');
+    expect(tabs.items).toEqual(
         ['General Setup', 'Comments Setup', '     User Setup    ', '       Reports Setup    ', 'Table Setup']);
+    [4001, 4002, 4003, 4004].forEach((topic, i) => {
+        tabs.selectTab(i);
+        expect(tabs.currentTab).toBe(i);
+        setup().toolbar().click(10);
+        expect(ui.helpTopic()).toBe(topic);
+    });
 });
 
-test('the general tab shows the folders of the user row and its help follows the tab', () => {
-    const row = db.query("Select * from tblUser where User = 'tester'")[0];
-    expect(setup().control('Path(2)').text).toBe(row.PathProject);
-    expect(setup().control('Path(3)').text).toBe(row.PathScenario);
-    expect(setup().control('Path(4)').text).toBe(row.PathReport);
-    setup().toolbar().click(10);
-    expect(ui.helpTopic()).toBe(4001);
-    setup().control('ssTabSetup').selectTab(3);
-    setup().toolbar().click(10);
-    expect(ui.helpTopic()).toBe(4004);
+test('the path boxes show the user\'s row', () => {
+    const u = db.query('Select * from tblUser where UserID = ' + session.userId)[0];
     setup().control('ssTabSetup').selectTab(0);
+    expect(setup().control('Path(0)').text).toBe(u.PathDatabase);
+    expect(setup().control('Path(1)').text).toBe(u.PathExport);
+    expect(setup().control('Path(2)').text).toBe(u.PathProject);
+    expect(setup().control('Path(3)').text).toBe(u.PathScenario);
+    expect(setup().control('Path(4)').text).toBe(u.PathReport);
 });
 
-test('the folder chooser answers in capitals with a closing separator, and Cancel keeps the box', () => {
+test('the folder chooser opens at the box\'s folder and answers in capitals with a closing separator', () => {
+    setup().control('ssTabSetup').selectTab(0);
+    const before = setup().control('Path(2)').text;
     setup().control('cmdPath(2)').click();
     const dir = ui.window('frmGetDir');
     expect(dir.caption).toBe('Select Directory');
-    expect(dir.control('txtDir').text).toBe(session.home + '/tester/Project');
+    expect(dir.control('txtDir').text).toBe(before);
     dir.control('txtDir').setText(session.home + '/tester');
     dir.control('txtDir').keyDown(13);
     expect(dir.control('dirMain').items).toContain('Scenario');
@@ -43,24 +53,30 @@ test('the folder chooser answers in capitals with a closing separator, and Cance
     expect(setup().control('Path(3)').text).toBe((session.home + '/tester/Scenario').toUpperCase());
 });
 
-test('comments: Add inserts a row; an apostrophe makes the insert fail through the error box', () => {
+test('a comment with an apostrophe fails into an error box; a plain one is added to the grid', () => {
     setup().control('ssTabSetup').selectTab(1);
-    expect(setup().control('ssGrdMain').rows).toEqual([['Rationale'], ['Quality'], ['Assumptions'], ['Uncertainty']]);
-    setup().control('txtComment').setText('Exposure point');
+    const grid = setup().control('ssGrdMain');
+    expect(grid.rows).toEqual([['Rationale'], ['Quality'], ['Assumptions'], ['Uncertainty']]);
+    const comments = () => db.query('Select Comment from tblComments where UserID = ' + session.userId).map(r => r.Comment);
+    ui.clearMessages();
+    setup().control('txtComment').setText("Otter's range");
     setup().control('cmdAdd').click();
-    expect(setup().control('ssGrdMain').rowCount).toBe(5);
-    expect(db.query('Select Comment from tblComments where UserID = ' + session.userId).map(r => r.Comment))
-        .toContain('Exposure point');
+    expect(ui.messages().length).toBe(1);
+    expect(ui.messages()[0].icon).toBe('stop');
+    expect(ui.messages()[0].buttons).toEqual(['OK']);
+    expect(ui.messages()[0].text.indexOf('Error in routine ')).toBe(0);
+    expect(comments().length).toBe(4);
+    expect(grid.rowCount).toBe(4);
+    expect(setup().control('txtComment').text).toBe("Otter's range");
+    expect(ui.cursor()).toBe('default');
 
     ui.clearMessages();
-    setup().control('txtComment').setText("Assessor's note");
+    setup().control('txtComment').setText('Home range');
     setup().control('cmdAdd').click();
-    const box = ui.messages();
-    expect(box.length).toBe(1);
-    expect(box[0].icon).toBe('stop');
-    expect(box[0].text.indexOf('Error in routine ')).toBe(0);
-    expect(setup().control('ssGrdMain').rowCount).toBe(5);
-    expect(setup().control('txtComment').text).toBe("Assessor's note");
+    expect(ui.messages().length).toBe(0);
+    expect(comments()).toContain('Home range');
+    expect(grid.rowCount).toBe(5);
+    expect(grid.rows.map(r => r[0])).toContain('Home range');
 });
 
 test('typing into the user grid writes the user row at once', () => {
@@ -92,13 +108,20 @@ test('the diagnostics level is chosen by name under its prompt', () => {
     setup().control('cboDiagLevel').select('0 - none');
 });
 
-test('the table list holds the visible tables; a table fills the labels, boxes and grid', () => {
+test('the table list shows only tables whose first label is visible, sorted by name', () => {
+    const all = db.query('Select Name from tblTableList Where L1IsVisible = True Order By Name').map(r => r.Name);
     setup().control('ssTabSetup').selectTab(4);
-    const lst = setup().control('LstTables');
-    const visible = db.query('Select Name from tblTableList Where L1IsVisible = True Order By Name').map(r => r.Name);
-    expect(lst.items).toEqual(visible);
-    expect(lst.items.length).toBe(21);
-    lst.select('Genus');
+    expect(setup().control('LstTables').items).toEqual(all);
+    db.exec("Update tblTableList Set L1IsVisible = False Where Name = 'Taxon'");
+    setup().close();
+    ui.menu('mnuIniSetup').trigger();
+    setup().control('ssTabSetup').selectTab(4);
+    expect(setup().control('LstTables').items).toEqual(all.filter(n => n !== 'Taxon'));
+    db.exec("Update tblTableList Set L1IsVisible = True Where Name = 'Taxon'");
+    setup().close();
+    ui.menu('mnuIniSetup').trigger();
+    chooseTable('Genus');
+    expect(setup().control('LstTables').items.length).toBe(21);
     expect(setup().control('LblSetup(0)').caption).toBe('Id:*');
     expect(setup().control('LblSetup(1)').caption).toBe('Genus:');
     expect(setup().control('LblSetup(2)').caption).toBe('Family Id:');
@@ -108,35 +131,69 @@ test('the table list holds the visible tables; a table fills the labels, boxes a
     expect(setup().control('txtFields(1)').locked).toBeTruthy();
 });
 
-test('Gender, Genus and Species rows cannot be deleted; the question is not asked', () => {
-    for (const name of ['Gender', 'Genus', 'Species']) {
-        setup().control('LstTables').select(name);
-        const before = setup().control('ssGrdTable').rowCount;
-        ui.clearMessages();
-        setup().control('cmdTables(4)').click();
-        expect(texts()).toEqual(['Cannot delete Gender, Genus and Species records.']);
-        expect(setup().control('ssGrdTable').rowCount).toBe(before);
-    }
+test('the table data control shows the record position as it moves', () => {
+    db.exec("Insert into tblStatus (Description) values ('Unknown status')");
+    expect(db.query('Select * from tblStatus').length).toBe(3);
+    chooseTable('Status');
+    const dc = setup().control('dcTable');
+    const grid = setup().control('ssGrdTable');
+    expect(grid.rowCount).toBe(3);
+    expect(dc.caption).toBe('Record: 1 of 3');
+    expect(setup().control('LblSetup(1)').caption).toBe('Status:');
+    grid.selectRow(2);
+    expect(dc.caption).toBe('Record: 3 of 3');
+    expect(setup().control('txtFields(1)').text).toBe(grid.cell(2, 1));
+    grid.selectRow(1);
+    expect(dc.caption).toBe('Record: 2 of 3');
+    expect(setup().control('txtFields(1)').text).toBe(grid.cell(1, 1));
 });
 
-test('a new genus goes in with its family; a required box left empty keeps the edit open', () => {
-    setup().control('LstTables').select('Genus');
-    const before = db.query('Select GenusID from tblGenus').length;
-    setup().control('cmdTables(0)').click();
-    expect(setup().control('LstTables').enabled).toBeFalsy();
-    setup().control('txtFields(1)').setText('Zobrelia');
+test('an empty table reads "Record: 0 of 0" and Edit on it says so without changing state', () => {
+    chooseTable('Descriptor');
+    expect(setup().control('dcTable').caption).toBe('Record: 0 of 0');
+    expect(setup().control('ssGrdTable').rowCount).toBe(0);
     ui.clearMessages();
-    setup().control('cmdTables(2)').click();
-    expect(texts()).toEqual(['Please add a value for all required fields(ID, Property Name, Property Units)']);
-    expect(setup().control('cmdTables(2)').enabled).toBeTruthy();
-    setup().control('txtFields(2)').setText(' 7 ');
-    setup().control('cmdTables(2)').click();
-    const rows = db.query("Select * from tblGenus where Name = 'Zobrelia'");
-    expect(rows.length).toBe(1);
-    expect(rows[0].FamilyID).toBe(7);
-    expect(db.query('Select GenusID from tblGenus').length).toBe(before + 1);
+    cmd(1).click();
+    expect(texts()).toEqual(['There are no records to edit.']);
     expect(setup().control('LstTables').enabled).toBeTruthy();
-    expect(setup().control('txtFields(1)').text).toBe('Zobrelia');
+    expect(cmd(0).enabled).toBeTruthy();
+    expect(cmd(2).enabled).toBeFalsy();
+});
+
+test('the comments table shows a user only his own rows; a new row carries his id', () => {
+    db.exec("Insert into tblComments (UserID, Comment) values (99999, 'Someone else')");
+    chooseTable('Comments');
+    const grid = setup().control('ssGrdTable');
+    expect(grid.rowCount).toBe(db.query('Select * from tblComments where UserID = ' + session.userId).length);
+    expect(grid.rows.every(r => r[0] === String(session.userId) && r[1] !== 'Someone else')).toBeTruthy();
+    cmd(0).click();
+    expect(setup().control('txtFields(0)').text).toBe(String(session.userId));
+    setup().control('txtFields(1)').setText('Sediment');
+    cmd(2).click();
+    expect(db.query("Select UserID from tblComments where Comment = 'Sediment'")[0].UserID).toBe(session.userId);
+});
+
+test('Delete on the three protected tables warns and asks nothing', () => {
+    ui.answer('Yes');
+    for (const name of ['Gender', 'Genus', 'Species']) {
+        chooseTable(name);
+        const n = setup().control('ssGrdTable').rowCount;
+        ui.clearMessages();
+        cmd(4).click();
+        expect(texts()).toEqual(['Cannot delete Gender, Genus and Species records.']);
+        expect(ui.messages()[0].icon).toBe('warning');
+        expect(ui.pendingAnswers().length).toBe(1);
+        ui.clearMessages();
+        expect(setup().control('ssGrdTable').rowCount).toBe(n);
+    }
+    // The queued answer still waits for a box with Yes.
+    chooseTable('Status');
+    setup().control('ssGrdTable').selectRow(2);
+    cmd(4).click();
+    expect(texts()).toEqual(['Delete current record ?']);
+    expect(ui.pendingAnswers().length).toBe(0);
+    expect(db.query("Select * from tblStatus where Description = 'Unknown status'").length).toBe(0);
+    expect(setup().control('ssGrdTable').rowCount).toBe(2);
 });
 
 test('a status row is added, changed and deleted after the question', () => {
@@ -163,38 +220,54 @@ test('a status row is added, changed and deleted after the question', () => {
     expect(db.query('Select * from tblStatus where StatusID = ' + row[0].StatusID).length).toBe(0);
 });
 
-test('the comments table shows only the user\'s own rows; a new row carries his id', () => {
-    db.exec("Insert into tblComments (UserID, Comment) values (9999, 'Someone else')");
-    setup().control('LstTables').select('Comments');
-    const rows = setup().control('ssGrdTable').rows;
-    expect(rows.every(r => r[0] === String(session.userId))).toBeTruthy();
-    setup().control('cmdTables(0)').click();
-    expect(setup().control('txtFields(0)').text).toBe(String(session.userId));
-    setup().control('txtFields(1)').setText('Sediment');
-    setup().control('cmdTables(2)').click();
-    expect(db.query("Select UserID from tblComments where Comment = 'Sediment'")[0].UserID).toBe(session.userId);
+test('a new row left empty is refused with the warning and the edit stays open', () => {
+    chooseTable('Status');
+    cmd(0).click();
+    expect(setup().control('LstTables').enabled).toBeFalsy();
+    ui.clearMessages();
+    cmd(2).click();
+    expect(texts()).toEqual(['Please add a value for all required fields(ID, Property Name, Property Units)']);
+    expect(ui.messages()[0].icon).toBe('warning');
+    expect(setup().control('LstTables').enabled).toBeFalsy();
+    expect(cmd(2).enabled).toBeTruthy();
 });
 
-test('Edit on an empty table only says so', () => {
-    db.exec('Delete * from tblVarianceType');
-    setup().control('LstTables').select('Variance Type');
+test('closing during an edit asks "Cancel changes ?"; No keeps the window, Yes lets it go', () => {
     ui.clearMessages();
-    setup().control('cmdTables(1)').click();
-    expect(texts()).toEqual(['There are no records to edit.']);
-    expect(setup().control('LstTables').enabled).toBeTruthy();
-});
-
-test('closing during an edit asks; No keeps the window, Yes drops the edit', () => {
-    setup().control('LstTables').select('Status');
-    setup().control('cmdTables(0)').click();
-    ui.clearMessages();
-    ui.answer('No');
     setup().close();
-    expect(texts()).toEqual(['Cancel changes ?']);
-    expect(ui.windows()).toContain('frmSetup');
+    expect(ui.messages().length).toBe(1);
+    expect(ui.messages()[0].text).toBe('Cancel changes ?');
+    expect(ui.messages()[0].buttons).toEqual(['Yes', 'No']);
+    expect(ui.messages()[0].answer).toBe('No');
+    expect(ui.window('frmSetup')).not.toBeNull();
+    expect(setup().visible).toBeTruthy();
     ui.answer('Yes');
     setup().toolbar().click(8);
-    expect(ui.windows()).not.toContain('frmSetup');
+    expect(ui.window('frmSetup')).toBeNull();
+    expect(db.query('Select * from tblStatus').length).toBe(2);
+});
+
+test('a new genus needs its family; the name and the number are trimmed', () => {
+    ui.menu('mnuIniSetup').trigger();
+    chooseTable('Genus');
+    const n = setup().control('ssGrdTable').rowCount;
+    cmd(0).click();
+    setup().control('txtFields(1)').setText('  Lutra ');
+    ui.clearMessages();
+    cmd(2).click();
+    expect(texts()).toEqual(['Please add a value for all required fields(ID, Property Name, Property Units)']);
+    expect(cmd(2).enabled).toBeTruthy();
+    setup().control('txtFields(2)').setText(' 7 ');
+    ui.clearMessages();
+    cmd(2).click();
+    expect(ui.messages().length).toBe(0);
+    const rows = db.query("Select * from tblGenus where Name = 'Lutra'");
+    expect(rows.length).toBe(1);
+    expect(rows[0].FamilyID).toBe(7);
+    expect(setup().control('ssGrdTable').rowCount).toBe(n + 1);
+    expect(setup().control('LstTables').enabled).toBeTruthy();
+    expect(setup().control('txtFields(1)').text).toBe('Lutra');
+    expect(ui.cursor()).toBe('default');
 });
 
 test('OK keeps the typed paths in the user row', () => {
