@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The schema: every column the program reads or writes by name, keys, the citation view, and the
 // column behaviour (text compares without case, numeric text becomes a number).
-#include "Schema.h"
+#include "SchemaDb.h"
 #include "VbError.h"
 
 #include <gtest/gtest.h>
@@ -9,50 +9,7 @@
 #include <QMap>
 #include <QStringList>
 
-#include <sqlite3.h>
-
-#include <memory>
-
 namespace {
-
-struct Closer {
-    void operator()(sqlite3 *db) const { sqlite3_close(db); }
-};
-using Db = std::unique_ptr<sqlite3, Closer>;
-
-Db memoryDbWithSchema()
-{
-    sqlite3 *raw = nullptr;
-    sqlite3_open(":memory:", &raw);
-    Db db(raw);
-    createSchema(db.get());
-    return db;
-}
-
-void exec(sqlite3 *db, const char *sql)
-{
-    char *err = nullptr;
-    const int rc = sqlite3_exec(db, sql, nullptr, nullptr, &err);
-    const std::string message = err ? err : "";
-    sqlite3_free(err);
-    ASSERT_EQ(rc, SQLITE_OK) << sql << ": " << message;
-}
-
-//! First column of the first row as text; "<null>" for null, "<none>" without a row.
-QString scalar(sqlite3 *db, const QString &sql)
-{
-    sqlite3_stmt *stmt = nullptr;
-    if (sqlite3_prepare_v2(db, sql.toUtf8().constData(), -1, &stmt, nullptr) != SQLITE_OK)
-        return QStringLiteral("<error: %1>").arg(QString::fromUtf8(sqlite3_errmsg(db)));
-    QString out = QStringLiteral("<none>");
-    if (sqlite3_step(stmt) == SQLITE_ROW) {
-        out = sqlite3_column_type(stmt, 0) == SQLITE_NULL
-                  ? QStringLiteral("<null>")
-                  : QString::fromUtf8(reinterpret_cast<const char *>(sqlite3_column_text(stmt, 0)));
-    }
-    sqlite3_finalize(stmt);
-    return out;
-}
 
 struct ColumnInfo {
     QString type;

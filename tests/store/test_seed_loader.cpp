@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The CSV reader and the seed loader: quoting, nulls, and errors that name the file and the column.
-#include "Schema.h"
+#include "SchemaDb.h"
 #include "SeedLoader.h"
 #include "VbError.h"
 
@@ -10,38 +10,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 
-#include <sqlite3.h>
-
-#include <memory>
-
 namespace {
-
-struct Closer {
-    void operator()(sqlite3 *db) const { sqlite3_close(db); }
-};
-using Db = std::unique_ptr<sqlite3, Closer>;
-
-Db memoryDbWithSchema()
-{
-    sqlite3 *raw = nullptr;
-    sqlite3_open(":memory:", &raw);
-    Db db(raw);
-    createSchema(db.get());
-    return db;
-}
-
-QString scalar(sqlite3 *db, const char *sql)
-{
-    sqlite3_stmt *stmt = nullptr;
-    sqlite3_prepare_v2(db, sql, -1, &stmt, nullptr);
-    QString out = QStringLiteral("<none>");
-    if (stmt && sqlite3_step(stmt) == SQLITE_ROW)
-        out = sqlite3_column_type(stmt, 0) == SQLITE_NULL
-                  ? QStringLiteral("<null>")
-                  : QString::fromUtf8(reinterpret_cast<const char *>(sqlite3_column_text(stmt, 0)));
-    sqlite3_finalize(stmt);
-    return out;
-}
 
 void writeFile(const QString &path, const QByteArray &content)
 {
