@@ -43,19 +43,6 @@ inline float lookupSingle(const QVariant &value)
     return vb::CSng(value);
 }
 
-//! A field by its Jet name. SQLite tells equal column names apart in nested joins by a suffix
-//! ("Factor:1"); the first column so named stands for the Jet name.
-inline QVariant fieldOf(const Recordset &rs, const QString &name)
-{
-    if (!rs.hasField(name)) {
-        const QString prefix = name + QLatin1Char(':');
-        for (const QString &column : rs.fieldNames())
-            if (column.startsWith(prefix, Qt::CaseInsensitive))
-                return rs.field(column);
-    }
-    return rs.field(name);
-}
-
 //! A value joined into a text with "&": null adds nothing, numbers in their default text.
 inline QString joinText(const QVariant &value)
 {

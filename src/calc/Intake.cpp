@@ -46,22 +46,22 @@ QString GetIntakeEquationText(Session &s, qint32 intakeModelId, const QString &w
             return;
         QString equation;
         QString units;
-        const QVariant factor = calc::fieldOf(*rs, QStringLiteral("Factor"));
-        const QVariant finalUnits = calc::fieldOf(*rs, QStringLiteral("FinalUnits"));
+        const QVariant factor = rs->field(QStringLiteral("Factor"));
+        const QVariant finalUnits = rs->field(QStringLiteral("FinalUnits"));
         if (factor.isNull() || finalUnits.isNull()) {
             equation = QStringLiteral("No data available.");
         } else {
             const float f = vb::CSng(factor);
             units = finalUnits.toString();
-            equation = units + QStringLiteral(" = ") + calc::singleText(calc::fieldOf(*rs, QStringLiteral("a"))) + QStringLiteral(" * ");
+            equation = units + QStringLiteral(" = ") + calc::singleText(rs->field(QStringLiteral("a"))) + QStringLiteral(" * ");
             if (f == 1.0f)
                 equation += QStringLiteral("Wt(g)");
             else
                 equation += QStringLiteral("(Wt(g)*") + vb::singleToText(f) + QStringLiteral(")");
-            equation += QStringLiteral("^ ") + calc::singleText(calc::fieldOf(*rs, QStringLiteral("b")));
+            equation += QStringLiteral("^ ") + calc::singleText(rs->field(QStringLiteral("b")));
             // A null factor compares as not different from 1 and adds nothing.
             for (const QString &name : {QStringLiteral("UCF"), QStringLiteral("MMF")}) {
-                const QVariant v = calc::fieldOf(*rs, name);
+                const QVariant v = rs->field(name);
                 if (!v.isNull() && vb::CSng(v) != 1.0f)
                     equation += QStringLiteral("*") + calc::singleText(v);
             }
