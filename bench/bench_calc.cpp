@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The full calculation of one scenario on the seeded database: FMR, MEavg, TDI, DD, the itemised
 // statement with its rows, and the base and adjusted rates of three intake models.
+#include "BenchSupport.h"
 #include "Calculations.h"
 #include "Diet.h"
 #include "Intake.h"
@@ -12,10 +13,7 @@
 #include "clsScenario.h"
 
 #include <QCoreApplication>
-#include <QFile>
-#include <QTemporaryDir>
 #include <array>
-#include <chrono>
 #include <cstdio>
 
 namespace {
@@ -142,17 +140,11 @@ Result calculate(Session &s, const Choice &c)
 int main(int argc, char **argv)
 {
     QCoreApplication app(argc, argv);
-    QTemporaryDir dir;
-    const QString db = dir.filePath(QStringLiteral("ZOB.sqlite"));
-    if (!QFile::copy(QStringLiteral(ZOB_SEED_DB), db)) {
-        std::fprintf(stderr, "cannot copy %s\n", ZOB_SEED_DB);
+    BenchSession bench;
+    if (!bench.ok())
         return 1;
-    }
-    QFile::setPermissions(db, QFile::ReadOwner | QFile::WriteOwner);
-    Session s;
-    s.home = dir.path();
+    Session &s = bench.session;
     s.userOverride = QStringLiteral("bench");
-    s.openDatabase();
     s.gProject = std::make_shared<clsProject>(s);
     s.gScenario = std::make_shared<clsScenario>(s);
     s.gDietItem = std::make_shared<clsDietItem>(s);
@@ -180,11 +172,7 @@ int main(int argc, char **argv)
 
     constexpr int n = 1000;
     volatile double sink = 0;
-    const auto start = std::chrono::steady_clock::now();
-    for (int i = 0; i < n; ++i)
-        sink = sink + calculate(s, choice).itemised;
-    const auto end = std::chrono::steady_clock::now();
-    const double micros = std::chrono::duration<double, std::micro>(end - start).count() / n;
+    const double micros = perCallMicros(n, [&](int) { sink = sink + calculate(s, choice).itemised; });
     std::printf("  full calculation of one scenario, %d iterations: %10.1f us/scenario\n", n, micros);
     return 0;
 }

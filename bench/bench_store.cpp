@@ -1,41 +1,20 @@
 // SPDX-License-Identifier: MIT
 // Lookup-sized recordset opens and translator passes: the two costs every window routine pays.
+#include "BenchSupport.h"
 #include "Database.h"
 #include "JetSql.h"
 #include "Session.h"
 
 #include <QCoreApplication>
-#include <QFile>
-#include <QTemporaryDir>
-#include <chrono>
 #include <cstdio>
-
-namespace {
-
-template <typename F>
-double perCallMicros(int n, F &&f)
-{
-    const auto start = std::chrono::steady_clock::now();
-    for (int i = 0; i < n; ++i)
-        f(i);
-    const auto end = std::chrono::steady_clock::now();
-    return std::chrono::duration<double, std::micro>(end - start).count() / n;
-}
-
-}  // namespace
 
 int main(int argc, char **argv)
 {
     QCoreApplication app(argc, argv);
-    QTemporaryDir dir;
-    const QString db = dir.filePath(QStringLiteral("ZOB.sqlite"));
-    if (!QFile::copy(QStringLiteral(ZOB_SEED_DB), db)) {
-        std::fprintf(stderr, "cannot copy %s\n", ZOB_SEED_DB);
+    BenchSession bench;
+    if (!bench.ok())
         return 1;
-    }
-    Session s;
-    s.home = dir.path();
-    s.openDatabase();
+    Session &s = bench.session;
     constexpr int n = 10000;
 
     volatile int sink = 0;

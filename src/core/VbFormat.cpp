@@ -1163,6 +1163,29 @@ QString formatNumber(const Decimal &d, Value value, const QString &pattern, Defa
 
 bool isNull(const QVariant &v) { return !v.isValid() || v.isNull(); }
 
+//! The integer, floating-point and character types, which the runtime reads as numbers.
+bool isNumberType(int typeId)
+{
+    switch (typeId) {
+    case QMetaType::Double:
+    case QMetaType::Float:
+    case QMetaType::Int:
+    case QMetaType::UInt:
+    case QMetaType::Short:
+    case QMetaType::UShort:
+    case QMetaType::Long:
+    case QMetaType::ULong:
+    case QMetaType::LongLong:
+    case QMetaType::ULongLong:
+    case QMetaType::SChar:
+    case QMetaType::UChar:
+    case QMetaType::Char:
+        return true;
+    default:
+        return false;
+    }
+}
+
 }  // namespace
 
 // ---------------------------------------------------------------------------------------------
@@ -1257,23 +1280,11 @@ double toDoubleChecked(const QVariant &value)
 {
     if (isNull(value))
         throw VbError::invalidUseOfNull();
+    if (isNumberType(value.typeId()))
+        return value.toDouble();
     switch (value.typeId()) {
     case QMetaType::Bool:
         return value.toBool() ? -1.0 : 0.0;
-    case QMetaType::Double:
-    case QMetaType::Float:
-    case QMetaType::Int:
-    case QMetaType::UInt:
-    case QMetaType::Short:
-    case QMetaType::UShort:
-    case QMetaType::Long:
-    case QMetaType::ULong:
-    case QMetaType::LongLong:
-    case QMetaType::ULongLong:
-    case QMetaType::SChar:
-    case QMetaType::UChar:
-    case QMetaType::Char:
-        return value.toDouble();
     case QMetaType::QDate:
         return dateToSerial(QDateTime(value.toDate(), QTime(0, 0)));
     case QMetaType::QDateTime:
@@ -1516,22 +1527,9 @@ bool IsNumeric(const QVariant &value)
 {
     if (isNull(value))
         return false;
-    switch (value.typeId()) {
-    case QMetaType::Bool:
-    case QMetaType::Double:
-    case QMetaType::Float:
-    case QMetaType::Int:
-    case QMetaType::UInt:
-    case QMetaType::Short:
-    case QMetaType::UShort:
-    case QMetaType::Long:
-    case QMetaType::ULong:
-    case QMetaType::LongLong:
-    case QMetaType::ULongLong:
-    case QMetaType::SChar:
-    case QMetaType::UChar:
-    case QMetaType::Char:
+    if (value.typeId() == QMetaType::Bool || isNumberType(value.typeId()))
         return true;
+    switch (value.typeId()) {
     case QMetaType::QString:
     case QMetaType::QByteArray:
     case QMetaType::QChar: {
