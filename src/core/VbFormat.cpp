@@ -1163,6 +1163,19 @@ QString formatNumber(const Decimal &d, Value value, const QString &pattern, Defa
 
 bool isNull(const QVariant &v) { return !v.isValid() || v.isNull(); }
 
+//! A number read from text, or the runtime's error: 6 when it is out of range, 13 when it is no number.
+template <typename T>
+T parseTextChecked(const QString &text)
+{
+    T out = 0;
+    switch (parseText(text, out)) {
+    case Parse::Ok: return out;
+    case Parse::Overflow: throw VbError::overflow();
+    case Parse::NotNumber: break;
+    }
+    throw VbError::typeMismatch();
+}
+
 //! The integer, floating-point and character types, which the runtime reads as numbers.
 bool isNumberType(int typeId)
 {
@@ -1294,13 +1307,7 @@ double toDoubleChecked(const QVariant &value)
     case QMetaType::QString:
     case QMetaType::QByteArray:
     case QMetaType::QChar: {
-        double out = 0;
-        switch (parseText(value.toString(), out)) {
-        case Parse::Ok: return out;
-        case Parse::Overflow: throw VbError::overflow();
-        case Parse::NotNumber: throw VbError::typeMismatch();
-        }
-        break;
+        return parseTextChecked<double>(value.toString());
     }
     default:
         break;
@@ -1323,13 +1330,7 @@ float CSng(const QVariant &value)
     case QMetaType::QByteArray:
     case QMetaType::QChar: {
         // Read the text straight into single precision, without a detour through double.
-        float out = 0;
-        switch (parseText(value.toString(), out)) {
-        case Parse::Ok: return out;
-        case Parse::Overflow: throw VbError::overflow();
-        case Parse::NotNumber: throw VbError::typeMismatch();
-        }
-        break;
+        return parseTextChecked<float>(value.toString());
     }
     default:
         break;
