@@ -33,8 +33,8 @@ test('the new user has one tblUser row with the paths of his folders', () => {
     const u = rows[0];
     expect(u.UserID).toBe(session.userId);
     expect(u.User).toBe('tester');
-    // The database file is ZOB.sqlite; the row keeps its path in upper case.
-    expect(u.PathDatabase).toBe(session.home + sep + 'ZOB.SQLITE');
+    // The row names the database file as it is spelled on disk (this file system keeps case).
+    expect(u.PathDatabase).toBe(session.home + sep + 'ZOB.sqlite');
     expect(u.PathExport).toBe(session.home + sep + 'Export');
     expect(u.PathProject).toBe(base + sep + 'Project');
     expect(u.PathScenario).toBe(base + sep + 'Scenario');
