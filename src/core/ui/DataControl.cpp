@@ -280,7 +280,7 @@ void DataControl::setWidgetValue(QWidget *w, const QVariant &v)
         }
     }
     if (auto *e = qobject_cast<QLineEdit *>(w))
-        e->setText(text);
+        e->setText(text), e->setCursorPosition(0);  // a long value shows its start, not its end
     else if (auto *t = qobject_cast<QTextEdit *>(w))
         t->setPlainText(text);
     else if (auto *p = qobject_cast<QPlainTextEdit *>(w))
