@@ -18,7 +18,7 @@ pid=$!
 shot first-start 3
 xdotool key Return; shot welcome
 xdotool key Return; shot setup
-for menu in f d h; do
+for menu in f p d h; do
   xdotool key Escape; sleep 0.3
   xdotool key "alt+$menu"; shot "menu-$menu" 1
 done

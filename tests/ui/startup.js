@@ -126,6 +126,11 @@ test('About is modal over the main window, closes on Escape and is unloaded', ()
     expect(ui.window('frmSplash').visible).toBeTruthy();
     ui.window('frmSplash').click();
     expect(ui.window('frmSplash')).toBeNull();
+    // The About box has an OK button that closes it.
+    ui.menu('mnuAboutTORM').trigger();
+    expect(ui.window('frmSplash').control('cmdOK').caption).toBe('OK');
+    ui.window('frmSplash').control('cmdOK').click();
+    expect(ui.window('frmSplash')).toBeNull();
     // The GUI answers again: the modal loop has returned.
     expect(ui.window('frmMDI').caption).toContain('Zobrel');
 });
