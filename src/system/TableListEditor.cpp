@@ -47,10 +47,8 @@ TableListEditor::TableListEditor(Session &session, FormBuilder &page) : QObject(
     FormBuilder split = page.row();
     split.container()->setObjectName(QStringLiteral("fraTables"));
     FormBuilder list = split.column(1);
-    QLabel *lblTables = list.label(QStringLiteral("lblTables"), QStringLiteral("Tables:"));
     m_LstTables = new QListWidget(list.container());
-    list.add(m_LstTables, QStringLiteral("LstTables"));
-    lblTables->setBuddy(m_LstTables);
+    list.above(m_LstTables, QStringLiteral("LstTables"), QStringLiteral("lblTables"), QStringLiteral("Tables:"));
 
     FormBuilder edit = split.column(3);
     FormBuilder record = edit.frame(QStringLiteral("fraTableSetup"), QStringLiteral("Record"));
