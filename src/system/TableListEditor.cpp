@@ -209,7 +209,7 @@ void TableListEditor::setEditing(bool editing)
     if (!editing)
         return;
     for (int i = 1; i < 3; ++i)
-        if (m_txtFields[i]->isVisibleTo(m_txtFields[i]->window())) {
+        if (m_txtFields[i]->isVisibleTo(m_fraTableSetup)) {
             m_txtFields[i]->setFocus();
             break;
         }

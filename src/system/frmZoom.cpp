@@ -6,7 +6,6 @@
 #include "FormBuilder.h"
 #include "QtWindowHost.h"
 #include "Session.h"
-#include "Utilities.h"
 #include "ZobToolbar.h"
 
 #include <QAction>
