@@ -6,6 +6,7 @@
 #include "Diagnostics.h"
 #include "FormBuilder.h"
 #include "GridCellEditor.h"
+#include "PathSpelling.h"
 #include "QtWindowHost.h"
 #include "Session.h"
 #include "SystemLinks.h"
@@ -189,13 +190,13 @@ void frmSetup::cmdPath_Click(int index)
             if (dlg.exec() == QDialog::Accepted && !dlg.selectedFiles().isEmpty()) {
                 const QString chosen = dlg.selectedFiles().constFirst();
                 if (!chosen.isEmpty())
-                    ControlValue::setText(box, chosen.toUpper());
+                    ControlValue::setText(box, shownPath(chosen));
             }
             return;
         }
         session().gSelectedDir = ControlValue::text(box);
         host().show(QStringLiteral("frmGetDir"), true);
-        ControlValue::setText(box, session().gSelectedDir.toUpper());
+        ControlValue::setText(box, shownPath(session().gSelectedDir));
     });
 }
 
