@@ -8,6 +8,7 @@
 
 #include <QDate>
 #include <QFile>
+#include <QScopeGuard>
 
 clsProject::clsProject(Session &session) : m_session(session)
 {
@@ -115,11 +116,6 @@ void clsProject::Save()
     const qint32 oldPID = PID;
     const QString oldFileName = FileName;
     const QString oldFilePath = FilePath;
-    auto keepAsBefore = [&] {
-        PID = oldPID;
-        FileName = oldFileName;
-        FilePath = oldFilePath;
-    };
     if (FileName == QLatin1String("*.NAV") && m_session.fileChooser) {
         // The action carries a trailing blank, as the chooser has always been asked.
         const FileChoice c = m_session.fileChooser->choose(QStringLiteral("NAV"), QStringLiteral("Save "));
@@ -143,8 +139,17 @@ void clsProject::Save()
         rs.setField(QStringLiteral("FileName"), FileName);
     };
     // The row and the marker file are saved together: the row's transaction is committed only once
-    // the marker file is written, and a failed write rolls the row back to what it was.
+    // the marker file is written, and a failure on the way rolls the row back to what it was and
+    // leaves the project as it was before the save.
     Database::Transaction transaction(*db);
+    bool saved = false;
+    const auto keepAsBefore = qScopeGuard([&] {
+        if (saved)
+            return;
+        PID = oldPID;
+        FileName = oldFileName;
+        FilePath = oldFilePath;
+    });
     if (Mode == QLatin1String("Add")) {
         auto rs = db->OpenRecordset(QStringLiteral("tblProject"), RecordsetType::Dynaset);
         rs->AddNew();
@@ -166,11 +171,8 @@ void clsProject::Save()
     const bool hadMarker = previous.open(QIODevice::ReadOnly);
     const QByteArray previousContent = hadMarker ? previous.readAll() : QByteArray();
     previous.close();
-    if (m_session.GF_SetFileContent(marker, markerLine(), QStringLiteral("Overwrite"))) {
-        // The writer has shown its error; the project stays as it was before the save.
-        keepAsBefore();
-        return;
-    }
+    if (m_session.GF_SetFileContent(marker, markerLine(), QStringLiteral("Overwrite")))
+        return;  // the writer has shown its error
     try {
         transaction.commit();
     } catch (const VbError &) {
@@ -179,9 +181,9 @@ void clsProject::Save()
             previous.write(previousContent);
         else if (!hadMarker)
             QFile::remove(marker);
-        keepAsBefore();
         throw;
     }
+    saved = true;
     if (Mode == QLatin1String("Add"))
         m_session.msgBox(QStringLiteral("Project has been saved successfully"), QString(), MsgIcon::Information);
     Mode = QStringLiteral("Edit");

@@ -74,9 +74,6 @@ QString lockedText(const QString &path)
                           "and held it longer than we could wait. Nothing was saved; try again in a moment.")
         .arg(path);
 }
-}  // namespace
-
-namespace {
 
 QString sqliteMessage(sqlite3 *db) { return QString::fromUtf8(sqlite3_errmsg(db)); }
 
@@ -255,8 +252,10 @@ qint64 Database::reserveAutonumber(const QString &table, const QString &keyColum
     auto scalar = [&](const QString &sql, qint64 bound) {
         const OwnedStatement stmt(prepareOne(sql.toUtf8(), table));
         const QByteArray name = table.toUtf8();
-        sqlite3_bind_text(stmt.get(), 1, name.constData(), static_cast<int>(name.size()), SQLITE_TRANSIENT);
-        if (sqlite3_bind_parameter_count(stmt.get()) > 1)
+        const int parameters = sqlite3_bind_parameter_count(stmt.get());
+        if (parameters > 0)
+            sqlite3_bind_text(stmt.get(), 1, name.constData(), static_cast<int>(name.size()), SQLITE_TRANSIENT);
+        if (parameters > 1)
             sqlite3_bind_int64(stmt.get(), 2, bound);
         const int rc = sqlite3_step(stmt.get());
         if (rc != SQLITE_ROW && rc != SQLITE_DONE)
@@ -264,7 +263,7 @@ qint64 Database::reserveAutonumber(const QString &table, const QString &keyColum
         return rc == SQLITE_ROW ? sqlite3_column_int64(stmt.get(), 0) : qint64(sqlite3_changes(m_db));
     };
     if (!autoIncrement)
-        return scalar(QStringLiteral("SELECT coalesce(max(\"%1\"), 0) + 1 FROM \"%2\" WHERE ?1 IS NOT NULL").arg(k, t), 0);
+        return scalar(QStringLiteral("SELECT coalesce(max(\"%1\"), 0) + 1 FROM \"%2\"").arg(k, t), 0);
     // The read and the write of the counter are one transaction under the write lock, so that two
     // programs cannot both read the same number.
     Transaction reservation(*this);
