@@ -154,7 +154,7 @@ frmSetup::frmSetup(Session &session, QtWindowHost &host) : ZobWindow(session, ho
     m_ssGrdUser->setDataControl(m_dcUser);
     m_ssGrdReport->setDataControl(m_dcUser);
     for (int i = 0; i < 5; ++i)
-        m_dcUser->bindText(m_Path[i], QString::fromLatin1(kPaths[i].field));
+        m_dcUser->bind(m_Path[i], QString::fromLatin1(kPaths[i].field));
 
     // Table Setup: the list of tables, the boxes of one row, the rows, and the commands.
     FormBuilder tables = b.page(m_ssTabSetup, QStringLiteral("Table Setup"), QStringLiteral("tabTables"));

@@ -64,7 +64,7 @@ TEST_F(DataControlTest, GridFollowsEveryRefresh)
 TEST_F(DataControlTest, BoundBoxIsWrittenBackWhenTheRowIsLeft)
 {
     QLineEdit box;
-    dc.bindText(&box, QStringLiteral("Name"));
+    dc.bind(&box, QStringLiteral("Name"));
     dc.Refresh();
     EXPECT_EQ(box.text(), QStringLiteral("alpha"));
     const QVariant id = dc.value(0, QStringLiteral("ProjectID"));

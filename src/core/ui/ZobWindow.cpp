@@ -2,6 +2,8 @@
 #include "ZobWindow.h"
 
 #include "ControlEvents.h"
+#include "Diagnostics.h"
+#include "FormBuilder.h"
 #include "QtWindowHost.h"
 #include "Session.h"
 #include "Utilities.h"
@@ -19,12 +21,28 @@ ZobWindow::ZobWindow(Session &session, QtWindowHost &host, const QString &name, 
 
 ZobWindow::~ZobWindow() = default;
 
-void ZobWindow::PuS_SetRecord(qint32 recordId, const QString &keyField, const QString &table, const QString &mode)
+ZobToolbar *ZobWindow::buildToolbar(FormBuilder &builder, const QList<ToolButton> &places, const QString &routine)
 {
-    Q_UNUSED(recordId);
-    Q_UNUSED(keyField);
-    Q_UNUSED(table);
-    Q_UNUSED(mode);
+    ZobToolbar *tb = builder.toolbar();
+    tb->define(places, [this, routine](const std::function<void()> &handler) {
+        guarded(m_session, {ErrForm::Shared, routine}, handler);
+        m_session.resetCursor();
+    });
+    return tb;
+}
+
+void ZobWindow::setHelpContext(QWidget *control, int topic)
+{
+    m_helpTopics.append({control, topic});
+}
+
+int ZobWindow::helpContext(const QWidget *control) const
+{
+    for (const QWidget *w = control; w && w != this; w = w->parentWidget())
+        for (const auto &[widget, topic] : m_helpTopics)
+            if (widget == w)
+                return topic;
+    return HelpContextID;
 }
 
 ZobToolbar *ZobWindow::toolbar() const
@@ -76,7 +94,7 @@ bool ZobWindow::eventFilter(QObject *watched, QEvent *e)
         const int code = vbKeyFromQt(ke->key());
         if (code != 0) {
             m_previewed = e;
-            if (Form_KeyDown(code, vbShiftState(ke->modifiers())))
+            if (keyDown(code, vbShiftState(ke->modifiers())))
                 return true;
         }
     }
@@ -89,11 +107,23 @@ void ZobWindow::keyPressEvent(QKeyEvent *event)
     const bool seen = event == m_previewed;
     m_previewed = nullptr;
     const int code = vbKeyFromQt(event->key());
-    if (!seen && code != 0 && Form_KeyDown(code, vbShiftState(event->modifiers()))) {
+    if (!seen && code != 0 && keyDown(code, vbShiftState(event->modifiers()))) {
         event->accept();
         return;
     }
     QWidget::keyPressEvent(event);
+}
+
+bool ZobWindow::keyDown(int code, int shift)
+{
+    if (Form_KeyDown(code, shift))
+        return true;
+    // F1 shows the help of the control that has the focus, as every window of the program does.
+    if (code == 112 && m_session.help) {
+        m_session.help->showTopic(helpContext(focusWidget()));
+        return true;
+    }
+    return false;
 }
 
 bool ZobWindow::event(QEvent *e)

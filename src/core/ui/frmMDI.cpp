@@ -123,10 +123,13 @@ void frmMDI::buildMenu()
     requireWindow(wildlife, QStringLiteral("frmSelect_Species"));
     connect(wildlife, &QAction::triggered, this,
             [this] {
-                if (ZobWindow *w = m_host.form(QStringLiteral("frmSelect_Species"))) {
-                    w->setProperty("Entry", QStringLiteral("Menu"));
-                    w->PuS_SetRecord(0, QStringLiteral("ScenarioID"), QStringLiteral("tblWildlife"), QStringLiteral("Write"));
-                }
+                RecordRequest request;
+                request.keyField = QStringLiteral("ScenarioID");
+                request.table = QStringLiteral("tblWildlife");
+                request.mode = QStringLiteral("Write");
+                request.entry = QStringLiteral("Menu");
+                if (ZobWindow *w = m_host.form(QStringLiteral("frmSelect_Species")))
+                    w->setRecord(request);
                 m_host.show(QStringLiteral("frmSelect_Species"));
             });
     entry->addSeparator()->setObjectName(QStringLiteral("mnuBar111"));
@@ -152,8 +155,11 @@ void frmMDI::buildMenu()
     requireWindow(lifeHistory, QStringLiteral("frmSearch_LifeHistory"));
     connect(lifeHistory, &QAction::triggered, this,
             [this] {
+                RecordRequest request;
+                request.keyField = QStringLiteral("NA");
+                request.table = QStringLiteral("NA");
                 if (ZobWindow *w = m_host.form(QStringLiteral("frmSearch_LifeHistory")))
-                    w->PuS_SetRecord(0, QStringLiteral("NA"), QStringLiteral("NA"), QString());
+                    w->setRecord(request);
                 m_host.show(QStringLiteral("frmSearch_LifeHistory"));
             });
 
@@ -173,10 +179,13 @@ void frmMDI::buildMenu()
 void frmMDI::openPicker(const QString &window, const QString &keyField, const QString &table)
 {
     // Browse-and-edit use of a picker: not a selection, record 0, mode "Write".
-    if (ZobWindow *w = m_host.form(window)) {
-        w->setProperty("IsSelection", false);
-        w->PuS_SetRecord(0, keyField, table, QStringLiteral("Write"));
-    }
+    RecordRequest request;
+    request.keyField = keyField;
+    request.table = table;
+    request.mode = QStringLiteral("Write");
+    request.isSelection = false;
+    if (ZobWindow *w = m_host.form(window))
+        w->setRecord(request);
     m_host.show(window);
 }
 
