@@ -260,14 +260,44 @@ FormBuilder FormBuilder::page(QTabWidget *tabs, const QString &caption, const QS
     return FormBuilder(page);
 }
 
-FormBuilder FormBuilder::row()
+FormBuilder FormBuilder::row(int stretch)
 {
     auto *w = new QWidget(m_container);
     m_rows = nullptr;
-    m_layout->addWidget(w);
+    m_layout->addWidget(w, stretch);
     FormBuilder b(w, true);
     b.m_layout->setContentsMargins(0, 0, 0, 0);
     return b;
+}
+
+QWidget *FormBuilder::above(QWidget *widget, const QString &name, const QString &labelName, const QString &caption,
+                            int stretch)
+{
+    label(labelName, caption)->setBuddy(widget);
+    add(widget, name);
+    if (stretch > 0 && m_layout)
+        m_layout->setStretchFactor(widget, stretch);
+    return widget;
+}
+
+QLabel *FormBuilder::panel(const QString &name, const QString &caption, int lines)
+{
+    auto *w = new QLabel(m_container);
+    w->setTextFormat(Qt::PlainText);
+    w->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    w->setWordWrap(true);
+    w->setFrameShape(QFrame::StyledPanel);
+    w->setFrameShadow(QFrame::Sunken);
+    w->setAutoFillBackground(true);
+    w->setBackgroundRole(QPalette::Base);
+    w->setMargin(4);
+    w->setFocusPolicy(Qt::StrongFocus);
+    w->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    w->setMinimumHeight(w->fontMetrics().lineSpacing() * lines + 12);
+    add(w, name, caption);
+    if (QLabel *lbl = m_container->findChild<QLabel *>(QStringLiteral("lbl_") + name))
+        lbl->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    return w;
 }
 
 void FormBuilder::stretch()

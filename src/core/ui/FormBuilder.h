@@ -62,8 +62,8 @@ public:
     //! A tab strip; pages are added with page().
     QTabWidget *tabs(const QString &name);
     FormBuilder page(QTabWidget *tabs, const QString &caption, const QString &name = {});
-    //! A row of controls side by side.
-    FormBuilder row();
+    //! A row of controls side by side; stretch > 0 lets it take that share of the height left.
+    FormBuilder row(int stretch = 0);
     //! A label/field grid with up to pairs label/field pairs side by side on a row. Controls with a
     //! caption made by the returned builder fill it in reading order, each label the buddy of its
     //! field; nextRow() ends a row early (its last field then spans the rest of the row).
@@ -73,6 +73,12 @@ public:
     FormBuilder column(int stretch = 1);
     //! Any widget, named; with a caption on a label/field row.
     QWidget *add(QWidget *widget, const QString &name, const QString &caption = {});
+    //! A control under a label of its own name (labelName) that captions it; stretch > 0 lets the
+    //! control take that share of the height left.
+    QWidget *above(QWidget *widget, const QString &name, const QString &labelName, const QString &caption, int stretch = 0);
+    //! A read-only text panel that keeps its text's lines: sunken, selectable, taking the focus, as
+    //! high as lines lines.
+    QLabel *panel(const QString &name, const QString &caption, int lines);
     //! Space that takes what is left.
     void stretch();
 

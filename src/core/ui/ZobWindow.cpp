@@ -9,8 +9,11 @@
 #include "Utilities.h"
 #include "ZobToolbar.h"
 
+#include <QAction>
 #include <QCloseEvent>
 #include <QKeyEvent>
+#include <QPushButton>
+#include <QTabWidget>
 
 ZobWindow::ZobWindow(Session &session, QtWindowHost &host, const QString &name, QWidget *parent)
     : QWidget(parent), m_session(session), m_host(host)
@@ -111,12 +114,68 @@ void ZobWindow::keyPressEvent(QKeyEvent *event)
         event->accept();
         return;
     }
+    // Enter and Escape that no control took press the window's default and cancel buttons, as in
+    // a dialog box.
+    if (event->modifiers() == Qt::NoModifier || event->modifiers() == Qt::KeypadModifier) {
+        const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+        if ((enter || event->key() == Qt::Key_Escape) && pressDialogButton(enter)) {
+            event->accept();
+            return;
+        }
+    }
     QWidget::keyPressEvent(event);
+}
+
+bool ZobWindow::pressDialogButton(bool accept)
+{
+    const auto buttons = findChildren<QPushButton *>();
+    for (QPushButton *b : buttons) {
+        if (!b->isVisibleTo(this) || !b->isEnabled())
+            continue;
+        const QString caption = b->text().remove(QLatin1Char('&')).trimmed();
+        const bool cancel = caption.compare(QLatin1String("Cancel"), Qt::CaseInsensitive) == 0
+                            || caption.compare(QLatin1String("Close"), Qt::CaseInsensitive) == 0;
+        if (accept ? b->isDefault() : cancel) {
+            b->click();
+            return true;
+        }
+    }
+    if (accept)
+        return false;
+    ZobToolbar *tb = toolbar();
+    for (const char *key : {"Close", "Cancel"}) {
+        QAction *a = tb ? tb->button(QString::fromLatin1(key)) : nullptr;
+        if (a && a->isVisible() && a->isEnabled()) {
+            a->trigger();
+            return true;
+        }
+    }
+    return false;
+}
+
+bool ZobWindow::turnPage(int code, int shift)
+{
+    // Ctrl+Tab and Ctrl+PgDn go to the next page of the tab strip around the focus (or the
+    // window's first), Ctrl+Shift+Tab and Ctrl+PgUp to the one before.
+    if (!(shift & 2) || (code != 9 && code != 33 && code != 34))
+        return false;
+    QTabWidget *tabs = nullptr;
+    for (QWidget *w = focusWidget(); w && w != this && !tabs; w = w->parentWidget())
+        tabs = qobject_cast<QTabWidget *>(w);
+    if (!tabs)
+        tabs = findChild<QTabWidget *>();
+    if (!tabs || tabs->count() == 0)
+        return false;
+    const bool back = code == 33 || (code == 9 && (shift & 1));
+    tabs->setCurrentIndex((tabs->currentIndex() + (back ? tabs->count() - 1 : 1)) % tabs->count());
+    return true;
 }
 
 bool ZobWindow::keyDown(int code, int shift)
 {
     if (Form_KeyDown(code, shift))
+        return true;
+    if (turnPage(code, shift))
         return true;
     // F1 shows the help of the control that has the focus, as every window of the program does.
     if (code == 112 && m_session.help) {

@@ -109,6 +109,8 @@ private:
     Session &m_session;
     QtWindowHost &m_host;
     bool keyDown(int code, int shift);
+    bool pressDialogButton(bool accept);
+    bool turnPage(int code, int shift);
 
     bool m_unloading = false;
     const QEvent *m_previewed = nullptr;
