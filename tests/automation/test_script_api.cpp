@@ -2,6 +2,7 @@
 // The script API as a script sees it, run on the GUI thread (where the bridge calls straight
 // through): controls read and written through the control-value adapter, with the results scripts
 // have always had, and the session's scenario and project as properties over their field tables.
+#include "ControlValue.h"
 #include "GlobalApis.h"
 #include "GuiBridge.h"
 #include "QtWindowHost.h"
@@ -18,10 +19,22 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QSpinBox>
 #include <QTreeWidget>
 #include <gtest/gtest.h>
 
 namespace {
+//! A kind of control no adapter of the program knows, added as a layer would add one.
+class SpinAdapter : public ControlAdapter {
+public:
+    bool handles(const QWidget *w) const override { return qobject_cast<const QSpinBox *>(w) != nullptr; }
+    QString kind() const override { return QStringLiteral("spin"); }
+    QString text(const QWidget *w) const override { return static_cast<const QSpinBox *>(w)->text(); }
+    QVariant value(const QWidget *w) const override { return static_cast<const QSpinBox *>(w)->value(); }
+    void setValue(QWidget *w, const QVariant &v, Origin) const override { static_cast<QSpinBox *>(w)->setValue(v.toInt()); }
+};
+const ControlAdapterRegistration<SpinAdapter> spinAdapter;
+
 class ScriptApiTest : public ::testing::Test {
 protected:
     void SetUp() override
@@ -65,6 +78,7 @@ TEST_F(ScriptApiTest, ControlsReadAndTakeValuesAsScriptsAlwaysHad)
     add<QCheckBox>("chkFlag");
     add<QLabel>("lblCaption");
     add<QFrame>("fraPlain");
+    add<QSpinBox>("spnCount");
     auto *tree = add<QTreeWidget>("tvwClass");
     new QTreeWidgetItem(new QTreeWidgetItem(tree, {QStringLiteral("Aves")}), {QStringLiteral("Ardeidae")});
     window.show();
@@ -89,6 +103,9 @@ TEST_F(ScriptApiTest, ControlsReadAndTakeValuesAsScriptsAlwaysHad)
     // A kind the adapter knows is known to scripts with nothing more: the tree.
     EXPECT_EQ(run(QStringLiteral("var t = c('tvwClass'); t.select('ardeidae'); [t.type, t.text, t.value, t.items].join()")),
               QStringLiteral("tree,Ardeidae,1,Aves,Ardeidae"));
+    // So is a kind registered from outside the runtime, in the one file of its adapter.
+    EXPECT_EQ(run(QStringLiteral("var n = c('spnCount'); n.setValue(4); [n.type, n.value, n.text].join()")),
+              QStringLiteral("spin,4,4"));
     EXPECT_EQ(run(QStringLiteral("w.control('txtNothing')")), QStringLiteral("error: the window frmProbe has no control txtNothing"));
 }
 
