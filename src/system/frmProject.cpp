@@ -42,12 +42,6 @@ const ProjectField kFields[] = {
     {6, "Comments", "Comments:", 3, true},
 };
 
-//! The scenario commands cmdScenario(i) top to bottom.
-const struct {
-    int index;
-    const char *caption;
-} kScenarioCommands[] = {{3, "Create &Wildlife Scenario"}, {4, "Create Contaminant &Scenario..."}, {6, "&Edit Scenario"},
-                         {5, "&Calculations"}, {0, "&Link Scenario"}, {1, "&Unlink Scenario"}, {2, "Close"}};
 }  // namespace
 
 frmProject::frmProject(Session &session, QtWindowHost &host) : ZobWindow(session, host, QStringLiteral("frmProject"))
@@ -102,12 +96,16 @@ frmProject::frmProject(Session &session, QtWindowHost &host) : ZobWindow(session
     m_txtScenarioDescription = list.memo(QStringLiteral("txtScenarioDescription"), QStringLiteral("Scenario Description:"), 3);
     m_txtScenarioDescription->setReadOnly(true);
     FormBuilder commands = scenarios.column(0);
-    for (const auto &c : kScenarioCommands) {
-        m_cmdScenario[c.index] = commands.button(QStringLiteral("cmdScenario"), c.index, QString::fromLatin1(c.caption));
-        connect(m_cmdScenario[c.index], &QPushButton::clicked, this, [this, i = c.index] { cmdScenario_Click(i); });
-    }
+    commandButtons(commands, QStringLiteral("cmdScenario"), {
+             {3, "Create &Wildlife Scenario", [this] { newWildlifeScenario(); }},
+             {4, "Create Contaminant &Scenario...", {}},  // contaminant scenarios are not part of this program
+             {6, "&Edit Scenario", [this] { OpenSelectedScenario(); }},
+             {5, "&Calculations", [this] { showCalculations(); }},
+             {0, "&Link Scenario", [this] { linkScenario(true); }},
+             {1, "&Unlink Scenario", [this] { linkScenario(false); }},
+             {2, "Close", [this] { unloadMe(); }}});
     commands.stretch();
-    m_cmdScenario[4]->setToolTip(QStringLiteral("Contaminant scenarios are not part of this program."));
+    arrayItem<QWidget>(this, QStringLiteral("cmdScenario"), 4)->setToolTip(QStringLiteral("Contaminant scenarios are not part of this program."));
     setHelpContext(m_ssGrdProjectScenarios, 3512);
     setHelpContext(m_txtScenarioDescription, 3509);
     resize(820, 640);
@@ -203,7 +201,7 @@ void frmProject::clearControls()
 void frmProject::setScenarioCommands(bool enabled)
 {
     for (int i : {0, 3, 4, 6})
-        m_cmdScenario[i]->setEnabled(enabled);
+        arrayItem<QWidget>(this, QStringLiteral("cmdScenario"), i)->setEnabled(enabled);
     if (enabled)
         followProject();
 }
@@ -272,43 +270,18 @@ void frmProject::scenarioDoubleClicked()
     guarded(session(), {ErrForm::Shared, QStringLiteral("ssGrdProjectScenarios_DblClick")}, [&] { OpenSelectedScenario(); });
 }
 
-void frmProject::cmdScenario_Click(int index)
+void frmProject::newWildlifeScenario()
 {
-    guarded(session(), {ErrForm::Shared, QStringLiteral("cmdScenario_Click")}, [&] {
-        switch (index) {
-        case 0:
-        case 1:
-            linkScenario(index == 0);
-            break;
-        case 2:
-            unloadMe();
-            break;
-        case 3: {
-            session().setHourglass(true);
-            auto previous = session().gScenario;
-            session().gScenario = std::make_shared<clsScenario>(session());
-            session().gScenario->window = builderLink(host());
-            if (previous)
-                session().gScenario->notes = previous->notes;
-            session().gScenario->AddNew(QStringLiteral("Wildlife"));
-            // Without the builder open, show the new scenario in the list at once.
-            if (!QtWindowHost::isRegistered(QStringLiteral("frmZOB")) && !m_dcScenario->recordSource().isEmpty())
-                m_dcScenario->Refresh();
-            break;
-        }
-        case 4:
-            break;  // contaminant scenarios are not part of this program
-        case 5:
-            showCalculations();
-            break;
-        case 6:
-            OpenSelectedScenario();
-            break;
-        default:
-            break;
-        }
-    });
-    session().resetCursor();
+    session().setHourglass(true);
+    auto previous = session().gScenario;
+    session().gScenario = std::make_shared<clsScenario>(session());
+    session().gScenario->window = builderLink(host());
+    if (previous)
+        session().gScenario->notes = previous->notes;
+    session().gScenario->AddNew(QStringLiteral("Wildlife"));
+    // Without the builder open, show the new scenario in the list at once.
+    if (!QtWindowHost::isRegistered(QStringLiteral("frmZOB")) && !m_dcScenario->recordSource().isEmpty())
+        m_dcScenario->Refresh();
 }
 
 void frmProject::linkScenario(bool link)

@@ -40,7 +40,7 @@ public:
 
 private:
     void saveProject();
-    void cmdScenario_Click(int index);
+    void newWildlifeScenario();
     void scenarioRowMoved();
     void scenarioDoubleClicked();
     void linkScenario(bool link);
@@ -60,6 +60,5 @@ private:
     DataGrid *m_ssGrdProjectScenarios;
     QPlainTextEdit *m_txtScenarioDescription;
     QWidget *m_txtProject[7] = {};
-    QPushButton *m_cmdScenario[7] = {};
     qint32 m_boundPid = -1;
 };

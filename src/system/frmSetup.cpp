@@ -322,13 +322,13 @@ void frmSetup::cmdPath_Click(int index)
             if (dlg.exec() == QDialog::Accepted && !dlg.selectedFiles().isEmpty()) {
                 const QString chosen = dlg.selectedFiles().constFirst();
                 if (!chosen.isEmpty())
-                    m_Path[index]->setText(chosen.toUpper());
+                    m_Path[index]->setText(shownPath(chosen));
             }
             return;
         }
         session().gSelectedDir = m_Path[index]->text();
         host().show(QStringLiteral("frmGetDir"), true);
-        m_Path[index]->setText(session().gSelectedDir.toUpper());
+        m_Path[index]->setText(shownPath(session().gSelectedDir));
     });
 }
 

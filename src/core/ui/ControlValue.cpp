@@ -104,6 +104,7 @@ public:
         QLineEdit *e = as(w);
         if (origin == Origin::Program) {
             e->setText(text);
+            e->setCursorPosition(0);  // a long value shows its start, not its end
             return;
         }
         // As typed: the edit signals fire.

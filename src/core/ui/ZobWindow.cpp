@@ -27,11 +27,28 @@ ZobWindow::~ZobWindow() = default;
 ZobToolbar *ZobWindow::buildToolbar(FormBuilder &builder, const QList<ToolButton> &places, const QString &routine)
 {
     ZobToolbar *tb = builder.toolbar();
-    tb->define(places, [this, routine](const std::function<void()> &handler) {
-        guarded(m_session, {ErrForm::Shared, routine}, handler);
-        m_session.resetCursor();
-    });
+    tb->define(places, [this, routine](const std::function<void()> &handler) { runCommand(routine, handler); });
     return tb;
+}
+
+QList<QPushButton *> ZobWindow::commandButtons(FormBuilder &builder, const QString &name,
+                                               const QList<CommandButton> &buttons)
+{
+    QList<QPushButton *> made;
+    const QString routine = name + QStringLiteral("_Click");
+    for (const CommandButton &b : buttons) {
+        QPushButton *button = builder.button(name, b.index, b.caption);
+        if (b.handler)
+            connect(button, &QPushButton::clicked, this, [this, routine, handler = b.handler] { runCommand(routine, handler); });
+        made << button;
+    }
+    return made;
+}
+
+void ZobWindow::runCommand(const QString &routine, const std::function<void()> &body)
+{
+    guarded(m_session, {ErrForm::Shared, routine}, body);
+    m_session.resetCursor();
 }
 
 void ZobWindow::setHelpContext(QWidget *control, int topic)

@@ -7,13 +7,23 @@
 #include <QPair>
 #include <QPointer>
 #include <QWidget>
+#include <functional>
 
 class FormBuilder;
+class QPushButton;
 class QtWindowHost;
 class Session;
 
 //! What one window passes another that it opens for a record (pickers and entry windows): the record
 //! and where it lives, the mode, the record to show first, and how the window was reached.
+//! One button of a control array of command buttons, as a table row: its index in the array, its
+//! caption and what it does.
+struct CommandButton {
+    int index;
+    QString caption;
+    std::function<void()> handler;
+};
+
 struct RecordRequest {
     qint32 recordId = 0;
     QString keyField;
@@ -98,6 +108,11 @@ protected:
     //! routine (the legacy "TB_MDI_ButtonClick"), and the busy cursor is reset after it.
     ZobToolbar *buildToolbar(FormBuilder &builder, const QList<ToolButton> &places,
                              const QString &routine = QStringLiteral("TB_MDI_ButtonClick"));
+    //! The buttons name(index) of a control array, made in the order of the table; each handler runs
+    //! under the window's error handler as routine (the legacy "<name>_Click").
+    QList<QPushButton *> commandButtons(FormBuilder &builder, const QString &name, const QList<CommandButton> &buttons);
+    //! Runs body under the window's error handler as routine, then resets the busy cursor.
+    void runCommand(const QString &routine, const std::function<void()> &body);
 
     void closeEvent(QCloseEvent *event) override;
     void hideEvent(QHideEvent *event) override;

@@ -6,6 +6,7 @@
 #include "QtWindowHost.h"
 #include "Session.h"
 #include "Utilities.h"
+#include "WindowGeometry.h"
 #include "ZobWindow.h"
 #include "clsProject.h"
 #include "clsScenario.h"
@@ -23,12 +24,12 @@ frmMDI::frmMDI(Session &session, QtWindowHost &host, QWidget *parent)
     setObjectName(QStringLiteral("frmMDI"));
     m_mdi->setObjectName(QStringLiteral("mdiArea"));
     setCentralWidget(m_mdi);
-    resize(1024, 720);
     m_host.setMdiArea(m_mdi);
     m_host.setMainWindow(this);
     buildMenu();
     connect(&m_host, &QtWindowHost::windowLoaded, this, &frmMDI::updateProjectItems);
     connect(&m_host, &QtWindowHost::windowUnloaded, this, &frmMDI::updateProjectItems);
+    WindowGeometry::manageMainWindow(this, QSize(1024, 720));
 }
 
 QString frmMDI::captionText()
