@@ -61,6 +61,19 @@ TEST_F(DataControlTest, GridFollowsEveryRefresh)
     EXPECT_EQ(grid.currentIndex().row(), 0);
 }
 
+TEST_F(DataControlTest, OnlyTheDeclaredColumnsShowInTheirDeclaredOrderAfterEachRefresh)
+{
+    DataGrid grid(QStringLiteral("ssGrdMain"));
+    dc.setRecordSource(QStringLiteral("Select ProjectID, Name, Purpose From tblProject Order By Name"));
+    grid.setDataControl(&dc);
+    dc.Refresh();
+    grid.setColumns({{"Purpose", "Why"}, {"name"}}, true);
+    EXPECT_EQ(grid.columnCaptions(), (QStringList{QStringLiteral("Why"), QStringLiteral("Name")}));
+    EXPECT_EQ(grid.rowTexts(0), (QStringList{QString(), QStringLiteral("alpha")}));
+    dc.Refresh();
+    EXPECT_EQ(grid.columnCaptions(), (QStringList{QStringLiteral("Why"), QStringLiteral("Name")}));
+}
+
 TEST_F(DataControlTest, BoundBoxIsWrittenBackWhenTheRowIsLeft)
 {
     QLineEdit box;

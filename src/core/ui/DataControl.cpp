@@ -479,6 +479,12 @@ void DataGrid::applyHidden()
         if (const int width = m_widths.value(field); width > 0)
             setColumnWidth(c, width * charWidth);
     }
+    // The only columns shown stand in the order declared, whatever the order of the record source.
+    for (int place = 0; place < m_onlyShown.size(); ++place) {
+        const int logical = d->fieldIndex(m_onlyShown[place]);
+        if (logical >= 0)
+            horizontalHeader()->moveSection(horizontalHeader()->visualIndex(logical), place);
+    }
 }
 
 int DataGrid::shownColumn(int n) const

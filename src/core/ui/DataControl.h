@@ -172,7 +172,7 @@ public:
     void setColumnFormat(const QString &field, const QString &pattern);
     void setColumnHidden(const QString &field, bool hidden);
     //! Declares columns by field, after setDataControl. With onlyThese, the columns of the record source that are not
-    //! listed are hidden. Each setting survives a Refresh.
+    //! listed are hidden and the listed ones stand in the order given. Each setting survives a Refresh.
     void setColumns(const QList<GridColumn> &columns, bool onlyThese = false);
     //! The hidden columns by field name survive a Refresh.
     bool isFieldHidden(const QString &field) const { return m_hidden.contains(field.toLower()); }
