@@ -39,6 +39,8 @@ struct RecordRequest {
     bool isSelection = true;
     //! How the window was reached: "Menu", or empty for a caller's command.
     QString entry;
+    //! The record also takes a life stage and a component (the classification picker).
+    bool collection = false;
 };
 
 //! The common base of the program's windows. The window host creates one instance per class, runs
