@@ -3,7 +3,6 @@
 
 #include "ControlValue.h"
 #include "Diagnostics.h"
-#include "Diet.h"
 #include "FormBuilder.h"
 #include "PickerSupport.h"
 #include "QtWindowHost.h"
@@ -11,10 +10,8 @@
 #include "Session.h"
 #include "Utilities.h"
 #include "VbFormat.h"
-#include "WindowLinks.h"
 #include "Wildlife.h"
 #include "ZobToolbar.h"
-#include "clsDietItem.h"
 
 #include <QGroupBox>
 #include <QLineEdit>
@@ -211,7 +208,7 @@ void FilteredPicker::select()
     writeAssignment(*caller);
     caller->Update();
     caller->Close();
-    reportToDietItem();
+    reportToDietItem(session(), host());
     unloadMe();
 }
 
@@ -231,17 +228,6 @@ void FilteredPicker::writeAssignment(Recordset &caller)
         return;
     caller.setField(t.valueColumn, vb::vbFormat(row.field(t.rowValueField), QStringLiteral("##.0")));
     caller.setField(t.dataSourceColumn, row.field(QStringLiteral("DataSourceID")));
-}
-
-void FilteredPicker::reportToDietItem()
-{
-    // Whoever asked, the diet item window is told: its changed flag is set and the diet becomes the
-    // user's; then it reads its items again (when the program has that window).
-    if (session().gDietItem && session().gDietItem->window)
-        session().gDietItem->window->setIsChanged(true);
-    UpdateDS(session(), true);
-    if (auto *items = host().link<ListView>(QStringLiteral("frmDE_DietItem")))
-        items->refreshList();
 }
 
 void FilteredPicker::openEntry(qint32 recordId, const QString &mode, const RecordRequest &request, bool modal)

@@ -91,8 +91,6 @@ private:
     qint32 callerClassification(const QString &column);
     void select();
     void writeAssignment(Recordset &caller);
-    //! Tells the diet item window that its row changed: the diet is the user's now, and it rereads.
-    void reportToDietItem();
     void openEntry(qint32 recordId, const QString &mode, const RecordRequest &request, bool modal);
     void newRecord();
     void doubleClick();

@@ -29,6 +29,7 @@ void PickerScriptApi::open(const QString &window, const QVariantMap &request)
     r.selectedId = request.value(QStringLiteral("selectedId")).toInt();
     r.filter = request.value(QStringLiteral("filter"), true).toBool();
     r.isSelection = r.filter;
+    r.collection = request.value(QStringLiteral("collection")).toBool();
     w->setRecord(r);
     host->show(window, r.filter);
 }

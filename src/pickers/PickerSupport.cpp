@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "PickerSupport.h"
 
+#include "Diet.h"
 #include "QtWindowHost.h"
 #include "Session.h"
+#include "WindowLinks.h"
+#include "ZobWindow.h"
+#include "clsDietItem.h"
 
 QString missingWindowText(const QString &name)
 {
@@ -15,4 +19,18 @@ bool windowAvailable(Session &session, const QString &name)
         return true;
     session.msgBox(missingWindowText(name), QString(), MsgIcon::Information);
     return false;
+}
+
+void refreshDietItems(QtWindowHost &host)
+{
+    if (auto *items = host.link<ListView>(QStringLiteral("frmDE_DietItem")))
+        items->refreshList();
+}
+
+void reportToDietItem(Session &session, QtWindowHost &host)
+{
+    if (session.gDietItem && session.gDietItem->window)
+        session.gDietItem->window->setIsChanged(true);
+    UpdateDS(session, true);
+    refreshDietItems(host);
 }

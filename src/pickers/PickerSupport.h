@@ -3,6 +3,7 @@
 
 #include <QString>
 
+class QtWindowHost;
 class Session;
 
 //! True when the program has the window name. Otherwise tells the user in a box that the window is
@@ -12,3 +13,10 @@ bool windowAvailable(Session &session, const QString &name);
 
 //! The text of that box.
 QString missingWindowText(const QString &name);
+
+//! Tells the diet item window that a picker wrote into a row: its changed flag is set, the diet of the
+//! open scenario becomes the user's, and the window (made if need be, when the program has it) reads
+//! its items again. Every picker reports so after a write, whoever opened it.
+void reportToDietItem(Session &session, QtWindowHost &host);
+//! Asks the diet item window, if the program has it, to read its items again.
+void refreshDietItems(QtWindowHost &host);

@@ -1,0 +1,89 @@
+// The classification picker: a species placed by choosing its family (the whole ancestry fills in),
+// a diet item with life stage and component narrowed by its kingdom, a blank kingdom refused, a cleared
+// level leaving the column as it was, and a level without a complete chain down to a family.
+
+const texts = () => ui.messages().map(m => m.text);
+const levels = ['KingdomID', 'SubkingdomID', 'PhylumID', 'ClassID', 'OrderID', 'FamilyID'];
+const combos = ['ssCmbKingdom', 'ssCmbSubKingdom', 'ssCmbPhylum', 'ssCmbClass', 'ssCmbOrder', 'ssCmbFamily'];
+const tables = ['tblKingdom', 'tblSubkingdom', 'tblPhylum', 'tblClass', 'tblOrder', 'tblFamily'];
+const nameOf = (level, id) => db.query('Select Name From ' + tables[level] + ' Where ' + levels[level] + ' = ' + id)[0].Name;
+// A family with its whole chain, found independently of the picker.
+const chain = db.query('Select tblFamily.FamilyID, tblOrder.OrderID, tblClass.ClassID, tblPhylum.PhylumID, '
+    + 'tblSubkingdom.SubkingdomID, tblSubkingdom.KingdomID From tblFamily, tblOrder, tblClass, tblPhylum, tblSubkingdom '
+    + 'Where tblFamily.OrderID = tblOrder.OrderID And tblOrder.ClassID = tblClass.ClassID And tblClass.PhylumID = '
+    + 'tblPhylum.PhylumID And tblPhylum.SubkingdomID = tblSubkingdom.SubkingdomID Order By tblFamily.FamilyID')[0];
+
+ui.window('frmSetup').close();
+
+test('a species: choosing a family fills in its ancestry and narrows nothing wrongly; Select writes all six', () => {
+    db.exec("Insert Into tblSpecies (SpeciesID, Common, Latin) Values (980001, 'Test vole', 'Microtus testus')");
+    pickers.open('frmSelect_Classification', { recordId: 980001, table: 'tblSpecies', keyField: 'SpeciesID', mode: 'Write' });
+    const w = ui.window('frmSelect_Classification');
+    expect(w.caption).toBe('Select Classification Assignment');
+    expect(w.control('fraCollection').visible).toBeFalsy();
+    for (const c of combos) expect(w.control(c).text).toBe('');
+    w.control('ssCmbFamily').select(nameOf(5, chain.FamilyID));
+    for (let i = 0; i < 6; ++i)
+        expect(w.control(combos[i]).text).toBe(nameOf(i, chain[levels[i]]));
+    // The order's list is narrowed to the class shown.
+    const orders = db.query('Select Name From tblOrder Where ClassID = ' + chain.ClassID + ' Order By Name').map(r => r.Name);
+    expect(w.control('ssCmbOrder').items).toEqual(orders);
+    w.toolbar().click('Select');
+    expect(ui.windows()).not.toContain('frmSelect_Classification');
+    const row = db.query('Select * From tblSpecies Where SpeciesID = 980001')[0];
+    for (const l of levels) expect(row[l]).toBe(chain[l]);
+});
+
+test('a diet item with life stage and component: both wait for the kingdom and list what it allows', () => {
+    db.exec("Insert Into tblDietItem (DietItemID, DietID, Name) Values (980002, 1, 'Probe')");
+    pickers.open('frmSelect_Classification', { recordId: 980002, table: 'tblDietItem', keyField: 'DietItemID',
+                                               collection: true });
+    const w = ui.window('frmSelect_Classification');
+    expect(w.control('fraCollection').visible).toBeTruthy();
+    expect(w.control('ssCmbLifeStage').enabled).toBeFalsy();
+    ui.clearMessages();
+    w.toolbar().click('Select');
+    expect(texts()).toEqual(['Kingdom cannot be blank. Please select Kingdom and then continue.']);
+    w.control('ssCmbKingdom').select(nameOf(0, chain.KingdomID));
+    expect(w.control('ssCmbLifeStage').enabled).toBeTruthy();
+    const stages = db.query('Select tblLifeStage.Description From jKingdomLifestage, tblLifeStage Where '
+        + 'jKingdomLifestage.LifeStageID = tblLifeStage.LifeStageID And jKingdomLifestage.KingdomID = '
+        + chain.KingdomID + ' Order By tblLifeStage.Description').map(r => r.Description);
+    expect(w.control('ssCmbLifeStage').items).toEqual(stages);
+    w.control('ssCmbFamily').select(nameOf(5, chain.FamilyID));
+    w.control('ssCmbLifeStage').select(0);
+    w.control('ssCmbComponent').select(0);
+    const stage = w.control('ssCmbLifeStage').value, component = w.control('ssCmbComponent').value;
+    w.toolbar().click('Select');
+    const row = db.query('Select * From tblDietItem Where DietItemID = 980002')[0];
+    expect(row.FamilyID).toBe(chain.FamilyID);
+    expect(row.KingdomID).toBe(chain.KingdomID);
+    expect(row.LifestageID).toBe(stage);
+    expect(row.ComponentID).toBe(component);
+});
+
+test('reopened, the record shows its levels; a cleared family stays in the record', () => {
+    pickers.open('frmSelect_Classification', { recordId: 980002, table: 'tblDietItem', keyField: 'DietItemID',
+                                               collection: true });
+    const w = ui.window('frmSelect_Classification');
+    expect(w.control('ssCmbFamily').text).toBe(nameOf(5, chain.FamilyID));
+    expect(w.control('ssCmbLifeStage').text).not.toBe('');
+    w.toolbar().click('New');
+    expect(w.control('ssCmbPhylum').text).toBe('');
+    expect(w.control('ssCmbSubKingdom').text).toBe(nameOf(1, chain.SubkingdomID));
+    w.toolbar().click('Select');
+    expect(db.query('Select FamilyID From tblDietItem Where DietItemID = 980002')[0].FamilyID).toBe(chain.FamilyID);
+});
+
+test('a phylum with no family beneath it gives the hierarchy message word for word', () => {
+    db.exec("Insert Into tblPhylum (PhylumID, SubkingdomID, Name) Values (980003, " + chain.SubkingdomID + ", 'Aaemptyphyta')");
+    pickers.open('frmSelect_Classification', { recordId: 980002, table: 'tblDietItem', keyField: 'DietItemID' });
+    const w = ui.window('frmSelect_Classification');
+    ui.clearMessages();
+    w.control('ssCmbPhylum').select('Aaemptyphyta');
+    expect(texts()).toEqual(['Error in Classification Heirarchy.']);
+    expect(ui.messages()[0].icon).toBe('warning');
+    expect(w.control('ssCmbClass').text).toBe('');
+    w.toolbar().click('Close');
+    expect(ui.windows()).not.toContain('frmSelect_Classification');
+});
