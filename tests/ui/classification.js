@@ -87,3 +87,46 @@ test('a phylum with no family beneath it gives the hierarchy message word for wo
     w.toolbar().click('Close');
     expect(ui.windows()).not.toContain('frmSelect_Classification');
 });
+
+test('the text search: exact and partial finds, find next, no match, an apostrophe; Select takes the whole path', () => {
+    db.exec("Insert Into tblDietItem (DietItemID, DietID, Name) Values (980004, 1, 'Searched')");
+    pickers.open('frmSelect_Classification', { recordId: 980004, table: 'tblDietItem', keyField: 'DietItemID' });
+    ui.window('frmSelect_Classification').control('cmdSrchClassification').click();
+    const f = ui.window('frmFind_Classification');
+    expect(f.caption).toBe('Classification Search');
+    const grid = f.control('ssCmbSearch');
+    expect(grid.columns).toEqual(['Kingdom', 'Subkingdom', 'Phylum', 'Phylum Desc', 'Class', 'Class Desc', 'Order',
+                                  'Order Desc', 'Family', 'Family Desc']);
+    const all = db.query('Select Count(*) As N From tblFamily, tblOrder, tblClass, tblPhylum, tblSubkingdom, tblKingdom '
+        + 'Where tblFamily.OrderID = tblOrder.OrderID And tblOrder.ClassID = tblClass.ClassID And tblClass.PhylumID = '
+        + 'tblPhylum.PhylumID And tblPhylum.SubkingdomID = tblSubkingdom.SubkingdomID And tblSubkingdom.KingdomID = '
+        + 'tblKingdom.KingdomID')[0].N;
+    expect(grid.rowCount).toBe(all);
+    const family = nameOf(5, chain.FamilyID);
+    f.control('txtSearch').setText(family);
+    f.control('LstFindCrit').select('Find Exact match');
+    f.control('cmdFind(0)').click();
+    expect(grid.cell(grid.currentRow, 8)).toBe(family);
+    ui.clearMessages();
+    f.control('cmdFind(1)').click();   // a family name is found once
+    expect(texts()).toEqual(['No matching records found.']);
+    expect(grid.cell(grid.currentRow, 8)).toBe(family);
+    f.control('LstFindCrit').select('Find Starting with!');
+    f.control('txtSearch').setText(family.substring(0, 3));
+    f.control('cmdFind(0)').click();
+    expect(grid.rows[grid.currentRow].some(c => c.toLowerCase().indexOf(family.substring(0, 3).toLowerCase()) === 0)).toBeTruthy();
+    ui.clearMessages();
+    f.control('txtSearch').setText("O'Brien");
+    f.control('cmdFind(0)').click();
+    expect(texts().length).toBe(1);
+    expect(texts()[0].indexOf('Error in routine')).toBe(0);
+    expect(f.visible).toBeTruthy();
+    f.control('txtSearch').setText(family);
+    f.control('LstFindCrit').select('Find Exact match');
+    f.control('cmdFind(0)').click();
+    f.toolbar().click('Select');
+    expect(ui.windows()).not.toContain('frmFind_Classification');
+    expect(ui.windows()).not.toContain('frmSelect_Classification');
+    const row = db.query('Select * From tblDietItem Where DietItemID = 980004')[0];
+    for (const l of levels) expect(row[l]).toBe(chain[l]);
+});
