@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "ZobWindow.h"
+
+class DataControl;
+class DataGrid;
+class QCheckBox;
+class QComboBox;
+class QLineEdit;
+
+//! Finds a literature reference by the first author's name or by the species it is linked to, and
+//! writes the chosen ReferenceID into the caller's row (table, key and record id of the request; the
+//! request's selected id is the reference the row holds now).
+class frmSelect_Reference : public ZobWindow {
+    Q_OBJECT
+public:
+    frmSelect_Reference(Session &session, QtWindowHost &host);
+
+    void setRecord(const RecordRequest &request) override;
+    void Form_Activate() override;
+
+    //! The list of every reference with its text, without an order.
+    static QString listStatement();
+    //! The references whose first author's name holds text, by author.
+    static QString authorStatement(const QString &text);
+    //! The references linked to a species, by author.
+    static QString speciesStatement(qint32 speciesId);
+
+private:
+    void bind(const QString &sql);
+    void speciesFilter(bool on);
+    void newReference();
+    void openReference();
+    //! Opens a reference in the entry window of the references, modally.
+    void openEntry(qint32 referenceId);
+    void select();
+
+    QLineEdit *m_txtInput;
+    QCheckBox *m_chkSpeciesFilter;
+    QComboBox *m_cboSpecies;
+    DataControl *m_dc;
+    DataGrid *m_grid;
+    bool m_pending = true;
+};

@@ -1,0 +1,70 @@
+// The reference picker: from the menu (every reference by author, no Select, New and a double click
+// asking for the missing entry window), for a caller's row (the held reference shown first, narrowed by
+// author at each keystroke and by species, sorted by a head click, Select writing ReferenceID), and an
+// apostrophe typed in the search box.
+
+const texts = () => ui.messages().map(m => m.text);
+const ids = grid => grid.rows.map(r => Number(r[0]));
+const byAuthor = where => db.query('Select tblReferences.ReferenceID As K From tblReferences, qryReference Where '
+    + 'tblReferences.ReferenceID = qryReference.ReferenceID' + (where ? ' And ' + where : '')
+    + ' Order By fldRef_Author, tblReferences.ReferenceID').map(r => Number(r.K));
+const sameSet = (a, b) => expect(a.slice().sort((x, y) => x - y)).toEqual(b.slice().sort((x, y) => x - y));
+
+ui.window('frmSetup').close();
+
+test('from the menu: every reference by author; New and a double click say the entry window is missing', () => {
+    expect(ui.menu('mnuReferences').enabled).toBeTruthy();
+    ui.menu('mnuReferences').trigger();
+    const w = ui.window('frmSelect_Reference');
+    expect(w.caption).toBe('Reference');
+    const grid = w.control('ssCmbSearch');
+    expect(grid.columns).toEqual(['ReferenceID', 'Author', 'Title']);
+    sameSet(ids(grid), byAuthor());
+    const authors = grid.rows.map(r => r[1].toLowerCase());
+    expect(authors).toEqual(authors.slice().sort());
+    expect(w.toolbar().visible('Select')).toBeFalsy();
+    ui.clearMessages();
+    w.toolbar().click('New');
+    grid.dblClickRow(0);
+    const missing = 'The window frmDE_Reference is not available in this version.';
+    expect(texts()).toEqual([missing, missing]);
+    w.toolbar().click('Close');
+});
+
+test('for a caller: held reference first, narrowed by author and by species, Select writes ReferenceID', () => {
+    db.exec('Insert Into tblDiet (DietID, SpeciesID, ReferenceID) Values (985001, 1, 0)');
+    const held = byAuthor()[5];
+    pickers.open('frmSelect_Reference', { recordId: 985001, table: 'tblDiet', keyField: 'DietID', mode: 'Read',
+                                          selectedId: held });
+    const w = ui.window('frmSelect_Reference');
+    const grid = w.control('ssCmbSearch');
+    expect(Number(grid.cell(grid.currentRow, 0))).toBe(held);
+    expect(w.control('txtReference').text).toBe(db.query('Select Reference From qryReference Where ReferenceID = ' + held)[0].Reference);
+    const author = db.query('Select fldRef_Author From tblReferences Where ReferenceID = ' + held)[0].fldRef_Author;
+    const part = author.substring(0, 4);
+    w.control('txtInput').setText(part);
+    sameSet(ids(grid), byAuthor("fldRef_Author Like '*" + part + "*'"));
+    w.control('txtInput').setText('');
+    sameSet(ids(grid), byAuthor());
+    grid.headClick(2);
+    const titles = grid.rows.map(r => r[2].toLowerCase());
+    expect(titles).toEqual(titles.slice().sort());
+    const species = db.query('Select SpeciesID, Count(*) As N From jtblSpeciesReference Group By SpeciesID Order By SpeciesID')[0];
+    w.control('chkSpeciesFilter').click();
+    expect(w.control('cboSpecies').visible).toBeTruthy();
+    const common = db.query('Select Common From tblSpecies Where SpeciesID = ' + species.SpeciesID)[0].Common;
+    w.control('cboSpecies').select(common);
+    sameSet(ids(grid), byAuthor('tblReferences.ReferenceID In (Select ReferenceID From jtblSpeciesReference Where SpeciesID = '
+                                + species.SpeciesID + ')'));
+    grid.selectRow(0);
+    const chosen = Number(grid.cell(0, 0));
+    ui.clearMessages();
+    w.control('txtInput').setText("O'Brien");
+    expect(texts().length).toBe(1);
+    expect(texts()[0].indexOf('Error in routine  frmSelect_Reference.txtInput')).toBe(0);
+    w.control('cboSpecies').select(common);
+    grid.selectRow(0);
+    w.toolbar().click('Select');
+    expect(ui.windows()).not.toContain('frmSelect_Reference');
+    expect(db.query('Select ReferenceID From tblDiet Where DietID = 985001')[0].ReferenceID).toBe(chosen);
+});
