@@ -34,3 +34,20 @@ void reportToDietItem(Session &session, QtWindowHost &host)
     UpdateDS(session, true);
     refreshDietItems(host);
 }
+
+void openReferenceEntry(Session &session, QtWindowHost &host, qint32 referenceId)
+{
+    const QString entry = QStringLiteral("frmDE_Reference");
+    if (!windowAvailable(session, entry))
+        return;
+    RecordRequest request;
+    request.recordId = referenceId > 0 ? referenceId
+                                       : session.GetNewRecordID(QStringLiteral("tblReferences"), QStringLiteral("ReferenceID"), QString(), 0, 0);
+    request.table = QStringLiteral("tblReferences");
+    request.keyField = QStringLiteral("ReferenceID");
+    request.mode = QStringLiteral("DE");
+    if (ZobWindow *w = host.form(entry)) {
+        w->setRecord(request);
+        host.show(entry, true);
+    }
+}

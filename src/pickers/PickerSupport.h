@@ -20,3 +20,7 @@ QString missingWindowText(const QString &name);
 void reportToDietItem(Session &session, QtWindowHost &host);
 //! Asks the diet item window, if the program has it, to read its items again.
 void refreshDietItems(QtWindowHost &host);
+
+//! Opens a reference in the references' entry window, modally, for maintenance (mode "DE"); a new one
+//! (id 0) is added first as a blank row. Says so, and adds nothing, when the program lacks the window.
+void openReferenceEntry(Session &session, QtWindowHost &host, qint32 referenceId);

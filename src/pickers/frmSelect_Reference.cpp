@@ -20,7 +20,6 @@
 
 namespace {
 const WindowRegistration<frmSelect_Reference> reg(QStringLiteral("frmSelect_Reference"));
-const QString kEntry = QStringLiteral("frmDE_Reference");
 }  // namespace
 
 frmSelect_Reference::frmSelect_Reference(Session &session, QtWindowHost &host)
@@ -30,7 +29,7 @@ frmSelect_Reference::frmSelect_Reference(Session &session, QtWindowHost &host)
     HelpContextID = 2575;
     FormBuilder b(this);
     buildToolbar(b, {ToolButton::separator(),
-                     {"New", "Add a reference", "New", [this] { newReference(); }},
+                     {"New", "Add a reference", "New", [this] { openReferenceEntry(this->session(), this->host(), 0); }},
                      ToolButton::separator(),
                      {"Select", "Assign the highlighted reference", "Select", [this] { select(); }},
                      ToolButton::separator(),
@@ -137,32 +136,11 @@ void frmSelect_Reference::speciesFilter(bool on)
     m_cboSpecies->setVisible(on);
 }
 
-void frmSelect_Reference::newReference()
-{
-    if (windowAvailable(session(), kEntry))
-        openEntry(session().GetNewRecordID(QStringLiteral("tblReferences"), QStringLiteral("ReferenceID"), QString(), 0, 0));
-}
-
 void frmSelect_Reference::openReference()
 {
     const qint32 id = vb::CLng(m_dc->current().field(QStringLiteral("ReferenceID")));
-    if (!windowAvailable(session(), kEntry))
-        return;
-    openEntry(id);
+    openReferenceEntry(session(), host(), id);
     m_dc->Refresh();
-}
-
-void frmSelect_Reference::openEntry(qint32 referenceId)
-{
-    RecordRequest request;
-    request.recordId = referenceId;
-    request.table = QStringLiteral("tblReferences");
-    request.keyField = QStringLiteral("ReferenceID");
-    request.mode = QStringLiteral("DE");
-    if (ZobWindow *w = host().form(kEntry)) {
-        w->setRecord(request);
-        host().show(kEntry, true);
-    }
 }
 
 void frmSelect_Reference::select()

@@ -30,10 +30,7 @@ public:
 private:
     void bind(const QString &sql);
     void speciesFilter(bool on);
-    void newReference();
     void openReference();
-    //! Opens a reference in the entry window of the references, modally.
-    void openEntry(qint32 referenceId);
     void select();
 
     QLineEdit *m_txtInput;

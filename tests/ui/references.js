@@ -68,3 +68,37 @@ test('for a caller: held reference first, narrowed by author and by species, Sel
     expect(ui.windows()).not.toContain('frmSelect_Reference');
     expect(db.query('Select ReferenceID From tblDiet Where DietID = 985001')[0].ReferenceID).toBe(chosen);
 });
+
+test('a species\' references move both ways; an assigned one is never offered again', () => {
+    const species = db.query('Select SpeciesID, Common, Latin From tblSpecies Order By SpeciesID')[0];
+    const assignedIds = () => db.query('Select ReferenceID From jtblSpeciesReference Where SpeciesID = '
+                                       + species.SpeciesID).map(r => Number(r.ReferenceID));
+    pickers.open('frmReferenceSpecies', { recordId: species.SpeciesID, mode: 'Write' });
+    const w = ui.window('frmReferenceSpecies');
+    expect(w.caption).toBe('Reference');
+    expect(w.control('lblSpecies').caption).toContain('Common Name: ' + species.Common);
+    expect(w.control('lblSpecies').caption).toContain('Scientific Name: ' + species.Latin);
+    const available = w.control('grdReferences(0)'), assigned = w.control('grdReferences(1)');
+    expect(assigned.columns).toEqual(['ReferenceID', 'Reference', 'Distribution', 'Habitat', 'Diet', 'Related']);
+    sameSet(ids(assigned), assignedIds());
+    sameSet(ids(available), byAuthor('tblReferences.ReferenceID Not In (Select ReferenceID From jtblSpeciesReference '
+                                     + 'Where SpeciesID = ' + species.SpeciesID + ')'));
+    const before = assignedIds().length;
+    available.selectRow(0);
+    const moved = Number(available.cell(0, 0));
+    w.control('cmdAssign').click();
+    expect(assignedIds()).toContain(moved);
+    expect(ids(available)).not.toContain(moved);
+    expect(ids(assigned)).toContain(moved);
+    available.dblClickRow(0);
+    expect(assignedIds().length).toBe(before + 2);
+    const back = ids(assigned).indexOf(moved);
+    assigned.selectRow(back);
+    w.control('cmdRemove').click();
+    expect(assignedIds()).not.toContain(moved);
+    expect(ids(available)).toContain(moved);
+    assigned.dblClickRow(0);
+    expect(assignedIds().length).toBe(before);
+    w.control('cmdClose').click();
+    expect(ui.windows()).not.toContain('frmReferenceSpecies');
+});
