@@ -23,6 +23,8 @@ struct Database::Cache {
     };
     QHash<QByteArray, Prepared> statements;       // SQL text -> its statement
     QHash<sqlite3_stmt *, QByteArray> cachedText; // statement -> its key, for the statements cached
+    QList<Recordset *> reading;                   // recordsets with a statement still being read
+    QHash<QString, QString> translations;         // Jet SELECT -> its SQLite text
 };
 
 namespace {
@@ -64,6 +66,7 @@ Database::Database(QString path, sqlite3 *db) : m_path(std::move(path)), m_db(db
 
 Database::~Database()
 {
+    finishReading();
     for (const auto &p : std::as_const(m_cache->statements))
         sqlite3_finalize(p.stmt);
     m_cache->statements.clear();
@@ -126,8 +129,33 @@ void Database::raiseLastError(const QString &context) const
     throw VbError(number, text);
 }
 
+//! True for a statement that only reads or writes rows, which SQLite runs beside statements being read.
+static bool isRowStatement(const QString &sql)
+{
+    const QString head = sql.trimmed().left(7).toUpper();
+    return head.startsWith(QLatin1String("SELECT")) || head.startsWith(QLatin1String("INSERT"))
+        || head.startsWith(QLatin1String("UPDATE")) || head.startsWith(QLatin1String("DELETE"))
+        || head.startsWith(QLatin1String("PRAGMA"));
+}
+
+void Database::readingStarted(Recordset *rs)
+{
+    if (!m_cache->reading.contains(rs))
+        m_cache->reading.append(rs);
+}
+
+void Database::readingStopped(Recordset *rs) { m_cache->reading.removeOne(rs); }
+
+void Database::finishReading()
+{
+    while (!m_cache->reading.isEmpty())
+        m_cache->reading.first()->fetchAll();   // each one leaves the list when its statement ends
+}
+
 void Database::executeNative(const QString &sqliteSql)
 {
+    if (!isRowStatement(sqliteSql))
+        finishReading();
     char *err = nullptr;
     if (sqlite3_exec(m_db, sqliteSql.toUtf8().constData(), nullptr, nullptr, &err) != SQLITE_OK) {
         sqlite3_free(err);
@@ -137,6 +165,8 @@ void Database::executeNative(const QString &sqliteSql)
 
 int Database::Execute(const QString &jetSql, bool failOnError)
 {
+    if (!isRowStatement(jetSql))
+        finishReading();
     const QString sql = translateJetSql(jetSql);
     const QByteArray utf8 = sql.toUtf8();
     // Without failOnError DAO still raises on a statement it cannot run at all; what it forgives is
@@ -173,11 +203,24 @@ std::unique_ptr<Recordset> Database::OpenRecordset(const QString &source, Record
                           QStringLiteral("The Microsoft Jet database engine cannot find the input table or query '%1'.").arg(name));
         sql = QStringLiteral("SELECT * FROM \"%1\"").arg(name);
     } else {
-        sql = translateJetSql(trimmed);
+        sql = translated(trimmed);
     }
     std::unique_ptr<Recordset> rs(new Recordset(this, source, sql, type));
     rs->load();
     return rs;
+}
+
+QString Database::translated(const QString &jetSql)
+{
+    // Windows and lookups open the same few statements over and over: each is translated once.
+    auto it = m_cache->translations.constFind(jetSql);
+    if (it != m_cache->translations.constEnd())
+        return it.value();
+    QString sql = translateJetSql(jetSql);
+    if (m_cache->translations.size() >= 4 * kStatementCacheLimit)
+        m_cache->translations.clear();
+    m_cache->translations.insert(jetSql, sql);
+    return sql;
 }
 
 const Database::TableInfo *Database::tableInfo(const QString &table)

@@ -58,6 +58,13 @@ public:
     //! Resets a statement from prepareCached and makes it available again (or finalizes it).
     void releaseCached(sqlite3_stmt *stmt);
 
+    //! Recordsets whose statement is still being read (they read rows as they are reached). Such a
+    //! statement keeps the tables it reads in use: before a statement that changes the schema or ends
+    //! a transaction, every open recordset reads its remaining rows.
+    void readingStarted(Recordset *rs);
+    void readingStopped(Recordset *rs);
+    void finishReading();
+
     //! Raises the VbError matching SQLite's last error on this connection.
     [[noreturn]] void raiseLastError(const QString &context = {}) const;
 
@@ -65,6 +72,7 @@ private:
     explicit Database(QString path, sqlite3 *db);
     struct TableInfo;
     const TableInfo *tableInfo(const QString &table);
+    QString translated(const QString &jetSql);
 
     QString m_path;
     sqlite3 *m_db = nullptr;

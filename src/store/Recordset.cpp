@@ -209,11 +209,11 @@ bool hasReadOnlyShape(const QString &sql)
 Recordset::Recordset(Database *db, QString jetSource, QString sqliteSql, RecordsetType type)
     : m_db(db), m_sourceSql(std::move(jetSource)), m_sql(std::move(sqliteSql)), m_type(type) {}
 
-Recordset::~Recordset() = default;
+Recordset::~Recordset() { finishReading(); }
 
 void Recordset::load()
 {
-    sqlite3 *h = m_db->handle();
+    finishReading();
     Statement probe;
     const QByteArray sql = m_sql.toUtf8();
     if (probe.prepare(m_db, sql.constData()) != SQLITE_OK)
@@ -267,9 +267,11 @@ void Recordset::load()
         kinds[i] = kindOf(decl ? QString::fromUtf8(decl) : QString());
     }
 
-    Statement run;
-    sqlite3_stmt *stmt = probe.stmt;
-    int offset = 0;
+    m_kinds.resize(n);
+    for (int i = 0; i < n; ++i)
+        m_kinds[i] = static_cast<int>(kinds[i]);
+    m_keyOffset = 0;
+    m_table.clear();
     if (m_updatable) {
         m_table = table;
         m_keyColumn = m_db->primaryKeyOf(table);
@@ -281,39 +283,105 @@ void Recordset::load()
         const int select = m_sql.indexOf(QLatin1String("SELECT"), 0, Qt::CaseInsensitive);
         QString withKey = m_sql;
         withKey.insert(select + 6, QStringLiteral(" \"%1\".rowid AS %2,").arg(table, kRowIdAlias));
-        const QByteArray keyed = withKey.toUtf8();
-        if (run.prepare(m_db, keyed.constData()) == SQLITE_OK) {
-            stmt = run.stmt;
-            offset = 1;
+        if (m_db->prepareCached(withKey.toUtf8(), &m_stmt) == SQLITE_OK) {
+            m_keyOffset = 1;
         } else {
+            m_db->releaseCached(m_stmt);
+            m_stmt = nullptr;
             m_updatable = false;
             m_table.clear();
         }
     }
+    if (!m_stmt) {
+        // The probe itself is read: it stays out of the cache's hands until the last row.
+        m_stmt = probe.stmt;
+        probe.stmt = nullptr;
+        probe.db = nullptr;
+    }
 
     m_rows.clear();
     m_rowKeys.clear();
-    int rc;
-    while ((rc = sqlite3_step(stmt)) == SQLITE_ROW) {
-        QVector<QVariant> row(n);
-        for (int i = 0; i < n; ++i)
-            row[i] = readValue(stmt, i + offset, kinds[i]);
-        m_rows.push_back(std::move(row));
-        if (offset)
-            m_rowKeys.push_back(sqlite3_column_int64(stmt, 0));
-    }
-    if (rc != SQLITE_DONE)
-        m_db->raiseLastError(m_sourceSql);
-
     m_editMode = EditMode::None;
     m_populated = 0;
     m_noMatch = false;
-    if (m_rows.isEmpty()) {
+    m_closed = false;
+    m_deleted = false;
+    m_db->readingStarted(this);
+    if (!fetchTo(0)) {
         m_pos = -1;
         m_bof = m_eof = true;
     } else {
         setPosition(0);
     }
+}
+
+bool Recordset::readRow()
+{
+    if (!m_stmt)
+        return false;
+    const int rc = sqlite3_step(m_stmt);
+    if (rc == SQLITE_DONE) {
+        finishReading();
+        return false;
+    }
+    if (rc != SQLITE_ROW) {
+        finishReading();
+        m_db->raiseLastError(m_sourceSql);
+    }
+    if (m_keyOffset)
+        m_rowKeys.push_back(sqlite3_column_int64(m_stmt, 0));
+    const int n = static_cast<int>(m_columns.size());
+    QVector<QVariant> row(n);
+    for (int i = 0; i < n; ++i)
+        row[i] = readValue(m_stmt, i + m_keyOffset, static_cast<ColumnKind>(m_kinds[i]));
+    m_rows.push_back(std::move(row));
+    return true;
+}
+
+void Recordset::finishReading()
+{
+    if (!m_stmt)
+        return;
+    sqlite3_stmt *stmt = m_stmt;
+    m_stmt = nullptr;
+    m_db->readingStopped(this);
+    m_db->releaseCached(stmt);
+}
+
+bool Recordset::fetchTo(int row)
+{
+    while (row >= m_rows.size())
+        if (!readRow())
+            return false;
+    return row >= 0;
+}
+
+int Recordset::fetchAll()
+{
+    while (readRow()) {
+    }
+    return static_cast<int>(m_rows.size());
+}
+
+int Recordset::countRows()
+{
+    if (!m_stmt)
+        return static_cast<int>(m_rows.size());
+    QString body = m_sql.trimmed();
+    while (body.endsWith(QLatin1Char(';')))
+        body.chop(1);
+    Statement st;
+    if (st.prepare(m_db, QStringLiteral("SELECT count(*) FROM (%1)").arg(body).toUtf8()) != SQLITE_OK
+        || sqlite3_step(st.stmt) != SQLITE_ROW)
+        m_db->raiseLastError(m_sourceSql);
+    return std::max(static_cast<int>(sqlite3_column_int64(st.stmt, 0)), static_cast<int>(m_rows.size()));
+}
+
+QVariant Recordset::valueAt(int row, int column) const
+{
+    if (row < 0 || row >= m_rows.size() || column < 0 || column >= m_columns.size())
+        return {};
+    return m_rows[row][column];
 }
 
 int Recordset::indexOf(const QString &name) const
@@ -420,6 +488,7 @@ void Recordset::MoveFirst()
 
 void Recordset::MoveLast()
 {
+    fetchAll();
     if (m_rows.isEmpty())
         throw VbError::noCurrentRecord();
     m_editMode = EditMode::None;
@@ -432,6 +501,7 @@ void Recordset::MoveNext()
     if (m_eof)
         throw VbError::noCurrentRecord();
     m_editMode = EditMode::None;
+    fetchTo(m_pos + 1);
     setPosition(std::min<int>(m_pos + 1, static_cast<int>(m_rows.size())));
 }
 
@@ -451,6 +521,7 @@ void Recordset::Move(int rows)
         throw VbError::noCurrentRecord();
     m_editMode = EditMode::None;
     const int target = m_pos + rows;
+    fetchTo(target);
     setPosition(std::clamp(target, -1, static_cast<int>(m_rows.size())));
 }
 
@@ -470,7 +541,7 @@ int Recordset::AbsolutePosition() const
 
 void Recordset::setAbsolutePosition(int pos)
 {
-    if (pos < 0 || pos >= m_rows.size())
+    if (pos < 0 || !fetchTo(pos))
         throw VbError(VbErr::InvalidArgument, QStringLiteral("Invalid argument."));
     m_editMode = EditMode::None;
     setPosition(pos);
@@ -508,7 +579,7 @@ void Recordset::find(const QString &criteria, int start, int step)
     if (st.prepare(m_db, utf8.constData()) != SQLITE_OK)
         m_db->raiseLastError(criteria);
     m_editMode = EditMode::None;
-    for (int r = start; r >= 0 && r < m_rows.size(); r += step) {
+    for (int r = start; r >= 0 && fetchTo(r); r += step) {
         sqlite3_reset(st.stmt);
         const QVector<QVariant> &row = m_rows[r];
         for (int i = 0; i < row.size(); ++i)
@@ -527,11 +598,11 @@ void Recordset::find(const QString &criteria, int start, int step)
 }
 
 void Recordset::FindFirst(const QString &criteria) { find(criteria, 0, 1); }
-void Recordset::FindLast(const QString &criteria) { find(criteria, static_cast<int>(m_rows.size()) - 1, -1); }
+void Recordset::FindLast(const QString &criteria) { find(criteria, fetchAll() - 1, -1); }
 void Recordset::FindNext(const QString &criteria) { find(criteria, m_bof ? 0 : m_pos + 1, 1); }
 void Recordset::FindPrevious(const QString &criteria)
 {
-    find(criteria, m_eof ? static_cast<int>(m_rows.size()) - 1 : m_pos - 1, -1);
+    find(criteria, m_eof ? fetchAll() - 1 : m_pos - 1, -1);
 }
 
 static VbError notUpdatable()
@@ -546,7 +617,6 @@ void Recordset::AddNew()
     m_buffer = QVector<QVariant>(m_columns.size());
     m_dirty = QVector<bool>(m_columns.size(), false);
     // Defaults of the table fill the new row, as the engine shows them before the row is saved.
-    sqlite3 *h = m_db->handle();
     {
         Statement st;
         const QByteArray pragma = QStringLiteral("PRAGMA table_info(\"%1\")").arg(m_table).toUtf8();
@@ -618,6 +688,10 @@ void Recordset::Update()
 {
     if (m_editMode == EditMode::None)
         throw VbError(VbErr::UpdateWithoutAddNewOrEdit, QStringLiteral("Update or CancelUpdate without AddNew or Edit."));
+    // A new row joins the end of the rows: the statement's rows are all read first, so that they come
+    // before it and the statement does not hand it back a second time.
+    if (m_editMode == EditMode::Add)
+        fetchAll();
     sqlite3 *h = m_db->handle();
     QStringList cols;
     QVector<QVariant> values;
@@ -709,6 +783,7 @@ void Recordset::Delete()
         m_db->raiseLastError(m_table);
     m_rows.removeAt(m_pos);
     m_rowKeys.removeAt(m_pos);
+    fetchTo(m_pos);   // whether a row follows decides EOF
     // The position stays before the next row, so that MoveNext reaches it.
     m_pos -= 1;
     m_bof = m_pos < 0 && m_rows.isEmpty();
@@ -724,6 +799,7 @@ void Recordset::Requery()
 
 void Recordset::Close()
 {
+    finishReading();
     m_closed = true;
     m_rows.clear();
     m_rowKeys.clear();

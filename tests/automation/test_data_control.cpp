@@ -4,6 +4,7 @@
 #include "TestSupport.h"
 
 #include <QComboBox>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <gtest/gtest.h>
 
@@ -59,6 +60,34 @@ TEST_F(DataControlTest, GridFollowsEveryRefresh)
     EXPECT_EQ(dc.currentRow(), 2);
     dc.MoveFirst();
     EXPECT_EQ(grid.currentIndex().row(), 0);
+}
+
+TEST_F(DataControlTest, LongListsAreCountedByTheDatabaseAndReadAsShown)
+{
+    ts->gDB->Execute(QStringLiteral("Delete * From tblProject"));
+    ts->gDB->executeNative(QStringLiteral(
+        "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 3000) "
+        "INSERT INTO tblProject (Name, Purpose) SELECT printf('project %04d', i), 'p' FROM n"));
+    DataGrid grid(QStringLiteral("ssGrdMain"));
+    grid.setDataControl(&dc);
+    grid.setColumnCaption(QStringLiteral("Name"), QStringLiteral("A caption wider than any project name in the list"));
+    grid.resize(400, 300);
+    grid.show();
+    dc.Refresh();
+    grid.fitColumns();
+    EXPECT_EQ(dc.caption(), QStringLiteral("Record: 1 of 3000"));
+    EXPECT_EQ(grid.recordsetModel()->rowCount(), 3000);
+    EXPECT_LT(dc.recordset()->rowsRead(), 200);   // neither the count nor the column widths read every row
+    const int name = dc.fieldIndex(QStringLiteral("Name"));
+    EXPECT_GE(grid.columnWidth(name), grid.horizontalHeader()->sectionSizeHint(name));
+
+    EXPECT_EQ(grid.cellText(2500, 0), QStringLiteral("project 2501"));
+    grid.selectRowIndex(2999);
+    EXPECT_EQ(dc.caption(), QStringLiteral("Record: 3000 of 3000"));
+    EXPECT_EQ(dc.recordset()->field(QStringLiteral("Name")).toString(), QStringLiteral("project 3000"));
+    dc.MoveFirst();
+    dc.MoveLast();
+    EXPECT_EQ(dc.currentRow(), 2999);
 }
 
 TEST_F(DataControlTest, BoundBoxIsWrittenBackWhenTheRowIsLeft)

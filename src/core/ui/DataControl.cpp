@@ -15,6 +15,7 @@
 #include <QMetaMethod>
 #include <QMouseEvent>
 #include <QPlainTextEdit>
+#include <QStyleOptionViewItem>
 #include <QTextEdit>
 #include <QToolButton>
 #include <cstdio>
@@ -84,42 +85,24 @@ void DataControl::Refresh()
     auto rs = m_db->OpenRecordset(m_source, RecordsetType::Dynaset);
     emit aboutToRefresh();
     m_rs = std::move(rs);
-    readRows();
+    m_fields = m_rs->fieldNames();
+    countRows();
     emit refreshed();
     arrive();
 }
 
-void DataControl::readRows()
+void DataControl::countRows()
 {
-    m_fields = m_rs->fieldNames();
-    m_rows.clear();
-    const int n = m_rs->totalRows();
-    if (n == 0)
-        return;
-    // Reading to the last row makes the count the full count, as the grid and caption need it.
-    m_rs->MoveLast();
-    m_rows.reserve(n);
-    for (int r = 0; r < n; ++r) {
-        m_rs->setAbsolutePosition(r);
-        QVector<QVariant> values;
-        values.reserve(m_fields.size());
-        for (int c = 0; c < m_fields.size(); ++c)
-            values.push_back(m_rs->field(c));
-        m_rows.push_back(std::move(values));
-    }
-    m_rs->MoveFirst();
+    // A screenful of rows is read at once; only a longer result is counted by the database.
+    constexpr int firstRows = 64;
+    m_rs->fetchTo(firstRows);
+    m_count = m_rs->complete() ? m_rs->rowsRead() : m_rs->countRows();
 }
 
 void DataControl::refreshRow(int row)
 {
-    if (!m_rs || row < 0 || row >= m_rows.size() || row >= m_rs->totalRows())
+    if (!m_rs || row < 0 || row >= m_rs->rowsRead())
         return;
-    const int keep = currentRow();
-    m_rs->setAbsolutePosition(row);
-    for (int c = 0; c < m_fields.size(); ++c)
-        m_rows[row][c] = m_rs->field(c);
-    if (keep >= 0)
-        m_rs->setAbsolutePosition(keep);
     emit rowChanged(row);
 }
 
@@ -140,14 +123,14 @@ int DataControl::fieldIndex(const QString &field) const
 
 QVariant DataControl::value(int row, int column) const
 {
-    if (row < 0 || row >= m_rows.size() || column < 0 || column >= m_fields.size())
+    if (!m_rs || row < 0 || row >= m_count || column < 0 || column >= m_fields.size() || !m_rs->fetchTo(row))
         return {};
-    return m_rows[row][column];
+    return m_rs->valueAt(row, column);
 }
 
 void DataControl::MoveFirst()
 {
-    if (!m_rs || m_rows.isEmpty())
+    if (!m_rs || m_count == 0)
         return;
     leaveRow();
     m_rs->MoveFirst();
@@ -156,7 +139,7 @@ void DataControl::MoveFirst()
 
 void DataControl::MoveLast()
 {
-    if (!m_rs || m_rows.isEmpty())
+    if (!m_rs || m_count == 0)
         return;
     leaveRow();
     m_rs->MoveLast();
@@ -166,7 +149,7 @@ void DataControl::MoveLast()
 void DataControl::MoveNext()
 {
     const int row = currentRow();
-    if (row >= 0 && row + 1 < m_rows.size())
+    if (row >= 0 && row + 1 < m_count)
         moveTo(row + 1);
 }
 
@@ -179,7 +162,7 @@ void DataControl::MovePrevious()
 
 void DataControl::moveTo(int row)
 {
-    if (!m_rs || row < 0 || row >= m_rows.size() || row == currentRow())
+    if (!m_rs || row < 0 || row >= m_count || row == currentRow() || !m_rs->fetchTo(row))
         return;
     leaveRow();
     m_rs->setAbsolutePosition(row);
@@ -193,8 +176,8 @@ void DataControl::arrive()
     const int row = currentRow();
     m_first->setEnabled(row > 0);
     m_prev->setEnabled(row > 0);
-    m_next->setEnabled(row >= 0 && row + 1 < m_rows.size());
-    m_last->setEnabled(row >= 0 && row + 1 < m_rows.size());
+    m_next->setEnabled(row >= 0 && row + 1 < m_count);
+    m_last->setEnabled(row >= 0 && row + 1 < m_count);
     emit Reposition();
 }
 
@@ -488,6 +471,38 @@ void DataGrid::applyHidden()
         return;
     for (int c = 0; c < d->columnCount(); ++c)
         QTableView::setColumnHidden(c, m_hidden.contains(d->fields()[c].toLower()));
+}
+
+void DataGrid::fitColumns()
+{
+    if (!m_model)
+        return;
+    for (int c = 0; c < m_model->columnCount(); ++c)
+        if (!isColumnHidden(c))
+            resizeColumnToContents(c);
+}
+
+int DataGrid::sizeHintForColumn(int column) const
+{
+    if (!m_model || column < 0 || column >= m_model->columnCount())
+        return -1;
+    ensurePolished();
+    const int rows = m_model->rowCount();
+    const int rowHeight = std::max(1, verticalHeader()->defaultSectionSize());
+    int top = rowAt(0);
+    if (top < 0)
+        top = 0;
+    // Before the grid is laid out its viewport says nothing: a screenful of rows stands for the view.
+    const int inView = isVisible() ? viewport()->height() / rowHeight + 1 : 0;
+    const int bottom = std::min(rows, top + std::max(inView, 40));
+    QStyleOptionViewItem option;
+    initViewItemOption(&option);
+    int hint = 0;
+    for (int row = top; row < bottom; ++row) {
+        const QModelIndex index = m_model->index(row, column);
+        hint = std::max(hint, itemDelegateForIndex(index)->sizeHint(option, index).width());
+    }
+    return hint + (showGrid() ? 1 : 0);
 }
 
 int DataGrid::shownColumn(int n) const
