@@ -341,6 +341,10 @@ int main(int argc, char **argv)
             return 1;
         }
 
+    if (argc == 2 && QByteArray(argv[1]) == "--store") {   // the store figures alone, while tuning
+        { const auto l = measureStore(large); const auto s = measureStore(normal); printTable("Lookup and one-row recordset", s, l, true); }
+        return 0;
+    }
     const QList<Figure> a = measureWindows(normal);
     const QList<Figure> b = measureWindows(large);
     std::printf("bench_windows: median of %d runs; target: within 2x own SQL + 10 ms on the 100x database\n", kRuns);

@@ -2,6 +2,7 @@
 #include "Database.h"
 
 #include "JetSql.h"
+#include "SqlParameters.h"
 #include "VbError.h"
 
 #include <QFileInfo>
@@ -25,6 +26,7 @@ struct Database::Cache {
     QHash<sqlite3_stmt *, QByteArray> cachedText; // statement -> its key, for the statements cached
     QList<Recordset *> reading;                   // recordsets with a statement still being read
     QHash<QString, QString> translations;         // Jet SELECT -> its SQLite text
+    QHash<QByteArray, std::shared_ptr<const RecordsetShape>> shapes;   // SQLite SELECT -> its result shape
 };
 
 namespace {
@@ -146,6 +148,18 @@ void Database::readingStarted(Recordset *rs)
 
 void Database::readingStopped(Recordset *rs) { m_cache->reading.removeOne(rs); }
 
+std::shared_ptr<const RecordsetShape> Database::shapeOf(const QByteArray &sql) const
+{
+    return m_cache->shapes.value(sql);
+}
+
+void Database::keepShape(const QByteArray &sql, std::shared_ptr<const RecordsetShape> shape)
+{
+    if (m_cache->shapes.size() >= 4 * kStatementCacheLimit)
+        m_cache->shapes.clear();
+    m_cache->shapes.insert(sql, std::move(shape));
+}
+
 void Database::finishReading()
 {
     while (!m_cache->reading.isEmpty())
@@ -155,7 +169,7 @@ void Database::finishReading()
 void Database::executeNative(const QString &sqliteSql)
 {
     if (!isRowStatement(sqliteSql))
-        finishReading();
+        schemaMayChange();
     char *err = nullptr;
     if (sqlite3_exec(m_db, sqliteSql.toUtf8().constData(), nullptr, nullptr, &err) != SQLITE_OK) {
         sqlite3_free(err);
@@ -166,7 +180,7 @@ void Database::executeNative(const QString &sqliteSql)
 int Database::Execute(const QString &jetSql, bool failOnError)
 {
     if (!isRowStatement(jetSql))
-        finishReading();
+        schemaMayChange();
     const QString sql = translateJetSql(jetSql);
     const QByteArray utf8 = sql.toUtf8();
     // Without failOnError DAO still raises on a statement it cannot run at all; what it forgives is
@@ -192,6 +206,7 @@ std::unique_ptr<Recordset> Database::OpenRecordset(const QString &source, Record
 {
     const QString trimmed = source.trimmed();
     QString sql;
+    SqlParameters params;
     // A bare table name opens the whole table, as DAO does.
     const bool isName = !trimmed.isEmpty() && !trimmed.contains(QLatin1Char(' ')) && !trimmed.contains(QLatin1Char('('));
     if (isName) {
@@ -203,20 +218,30 @@ std::unique_ptr<Recordset> Database::OpenRecordset(const QString &source, Record
                           QStringLiteral("The Microsoft Jet database engine cannot find the input table or query '%1'.").arg(name));
         sql = QStringLiteral("SELECT * FROM \"%1\"").arg(name);
     } else {
-        sql = translated(trimmed);
+        // Statements that differ only in the numbers they compare share a translation and a
+        // prepared statement; the numbers are bound.
+        params = takeComparedNumbers(trimmed);
+        sql = translated(params.templateText, static_cast<int>(params.values.size()));
+        if (sql.isNull()) {
+            params.values.clear();
+            sql = translated(trimmed, 0);
+        }
     }
     std::unique_ptr<Recordset> rs(new Recordset(this, source, sql, type));
+    rs->m_params = std::move(params.values);
     rs->load();
     return rs;
 }
 
-QString Database::translated(const QString &jetSql)
+QString Database::translated(const QString &jetSql, int parameters)
 {
     // Windows and lookups open the same few statements over and over: each is translated once.
     auto it = m_cache->translations.constFind(jetSql);
     if (it != m_cache->translations.constEnd())
         return it.value();
     QString sql = translateJetSql(jetSql);
+    if (parameters > 0 && !markersToParameters(sql, parameters))
+        sql = QString();   // the caller translates the statement with its numbers instead
     if (m_cache->translations.size() >= 4 * kStatementCacheLimit)
         m_cache->translations.clear();
     m_cache->translations.insert(jetSql, sql);
@@ -271,7 +296,17 @@ QString Database::columnType(const QString &table, const QString &column)
 
 QStringList Database::columnsOf(const QString &table) { return tableInfo(table)->columns; }
 
-void Database::clearSchemaCache() { m_cache->tables.clear(); }
+void Database::clearSchemaCache()
+{
+    m_cache->tables.clear();
+    m_cache->shapes.clear();
+}
+
+void Database::schemaMayChange()
+{
+    finishReading();
+    m_cache->shapes.clear();
+}
 
 int Database::prepareCached(const QByteArray &sql, sqlite3_stmt **out)
 {

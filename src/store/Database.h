@@ -65,6 +65,11 @@ public:
     void readingStopped(Recordset *rs);
     void finishReading();
 
+    //! The result shape of a statement text as last seen, null when unknown; forgotten on any schema
+    //! change.
+    std::shared_ptr<const RecordsetShape> shapeOf(const QByteArray &sql) const;
+    void keepShape(const QByteArray &sql, std::shared_ptr<const RecordsetShape> shape);
+
     //! Raises the VbError matching SQLite's last error on this connection.
     [[noreturn]] void raiseLastError(const QString &context = {}) const;
 
@@ -72,7 +77,12 @@ private:
     explicit Database(QString path, sqlite3 *db);
     struct TableInfo;
     const TableInfo *tableInfo(const QString &table);
-    QString translated(const QString &jetSql);
+    //! The SQLite text of a Jet statement whose first `parameters` compared numbers are markers (see
+    //! SqlParameters), cached; null when the markers did not come through.
+    QString translated(const QString &jetSql, int parameters);
+    //! Before a statement that may change the schema: open statements are read to the end and the
+    //! result shapes forgotten.
+    void schemaMayChange();
 
     QString m_path;
     sqlite3 *m_db = nullptr;

@@ -204,50 +204,16 @@ bool hasReadOnlyShape(const QString &sql)
     return depth == 0 && !word.isEmpty() && check(word);
 }
 
-}  // namespace
-
-Recordset::Recordset(Database *db, QString jetSource, QString sqliteSql, RecordsetType type)
-    : m_db(db), m_sourceSql(std::move(jetSource)), m_sql(std::move(sqliteSql)), m_type(type) {}
-
-Recordset::~Recordset() { finishReading(); }
-
-void Recordset::load()
+//! What a statement's result looks like: its columns and, when every column comes from one table
+//! and the statement is a plain single-table one, that table (the rows can then be written back).
+RecordsetShape shapeOf(sqlite3_stmt *stmt, const QString &sql)
 {
-    finishReading();
-    Statement probe;
-    const QByteArray sql = m_sql.toUtf8();
-    if (probe.prepare(m_db, sql.constData()) != SQLITE_OK)
-        m_db->raiseLastError(m_sourceSql);
-    if (sqlite3_column_count(probe.stmt) == 0)
-        throw VbError(VbErr::InvalidArgument, QStringLiteral("Invalid argument: '%1' does not return records.").arg(m_sourceSql));
-
-    // Decide whether the rows can be written back: every column from one table, a plain single-table
-    // statement, and a dynaset.
-    const int n = sqlite3_column_count(probe.stmt);
+    RecordsetShape shape;
+    const int n = sqlite3_column_count(stmt);
     QString table;
     bool oneTable = true;
     for (int i = 0; i < n; ++i) {
-        const char *t = sqlite3_column_table_name(probe.stmt, i);
-        if (!t) {
-            oneTable = false;
-            break;
-        }
-        const QString name = QString::fromUtf8(t);
-        if (table.isEmpty())
-            table = name;
-        else if (name.compare(table, Qt::CaseInsensitive) != 0) {
-            oneTable = false;
-            break;
-        }
-    }
-    m_updatable = m_type != RecordsetType::Snapshot && oneTable && !table.isEmpty() && !hasReadOnlyShape(m_sql);
-
-    QVector<ColumnKind> kinds(n);
-    m_columns.clear();
-    m_originColumns.clear();
-    m_originTables.clear();
-    for (int i = 0; i < n; ++i) {
-        QString name = QString::fromUtf8(sqlite3_column_name(probe.stmt, i));
+        QString name = QString::fromUtf8(sqlite3_column_name(stmt, i));
         // Inside nested joins SQLite marks column names with ":<n>" ("Factor:1"); the engine the
         // program was written for names the column plainly.
         const qsizetype colon = name.lastIndexOf(QLatin1Char(':'));
@@ -258,38 +224,88 @@ void Recordset::load()
             if (digits)
                 name.truncate(colon);
         }
-        m_columns << name;
-        const char *origin = sqlite3_column_origin_name(probe.stmt, i);
-        m_originColumns << (origin ? QString::fromUtf8(origin) : QString());
-        const char *originTable = sqlite3_column_table_name(probe.stmt, i);
-        m_originTables << (originTable ? QString::fromUtf8(originTable) : QString());
-        const char *decl = sqlite3_column_decltype(probe.stmt, i);
-        kinds[i] = kindOf(decl ? QString::fromUtf8(decl) : QString());
+        shape.columns << name;
+        const char *origin = sqlite3_column_origin_name(stmt, i);
+        shape.originColumns << (origin ? QString::fromUtf8(origin) : QString());
+        const char *originTable = sqlite3_column_table_name(stmt, i);
+        const QString tableName = originTable ? QString::fromUtf8(originTable) : QString();
+        shape.originTables << tableName;
+        const char *decl = sqlite3_column_decltype(stmt, i);
+        shape.kinds << static_cast<int>(kindOf(decl ? QString::fromUtf8(decl) : QString()));
+        if (tableName.isEmpty())
+            oneTable = false;
+        else if (table.isEmpty())
+            table = tableName;
+        else if (tableName.compare(table, Qt::CaseInsensitive) != 0)
+            oneTable = false;
     }
+    if (oneTable && !hasReadOnlyShape(sql))
+        shape.table = table;
+    return shape;
+}
 
-    m_kinds.resize(n);
-    for (int i = 0; i < n; ++i)
-        m_kinds[i] = static_cast<int>(kinds[i]);
+}  // namespace
+
+Recordset::Recordset(Database *db, QString jetSource, QString sqliteSql, RecordsetType type)
+    : m_db(db), m_sourceSql(std::move(jetSource)), m_sql(std::move(sqliteSql)), m_type(type) {}
+
+Recordset::~Recordset() { finishReading(); }
+
+void Recordset::load()
+{
+    finishReading();
+    const QByteArray sql = m_sql.toUtf8();
+    std::shared_ptr<const RecordsetShape> shape = m_db->shapeOf(sql);
+    const bool writable = m_type != RecordsetType::Snapshot;
+    // A statement seen before whose rows can be written back goes straight to its keyed form.
+    Statement probe;
+    if (!shape || !writable || shape->table.isEmpty()) {
+        if (probe.prepare(m_db, sql) != SQLITE_OK)
+            m_db->raiseLastError(m_sourceSql);
+        bindParameters(probe.stmt);
+        if (sqlite3_column_count(probe.stmt) == 0)
+            throw VbError(VbErr::InvalidArgument, QStringLiteral("Invalid argument: '%1' does not return records.").arg(m_sourceSql));
+        if (!shape) {
+            auto made = std::make_shared<RecordsetShape>(shapeOf(probe.stmt, m_sql));
+            if (!made->table.isEmpty()) {
+                // The rowid of every row is fetched beside the columns so that edits find their row.
+                QString withKey = m_sql;
+                const qsizetype select = m_sql.indexOf(QLatin1String("SELECT"), 0, Qt::CaseInsensitive);
+                withKey.insert(select + 6, QStringLiteral(" \"%1\".rowid AS %2,").arg(made->table, kRowIdAlias));
+                made->keyedSql = withKey.toUtf8();
+            }
+            shape = made;
+            m_db->keepShape(sql, shape);
+        }
+    }
+    const int n = static_cast<int>(shape->columns.size());
+    m_columns = shape->columns;
+    m_originColumns = shape->originColumns;
+    m_originTables = shape->originTables;
+    m_kinds = shape->kinds;
+    m_updatable = writable && !shape->table.isEmpty();
     m_keyOffset = 0;
     m_table.clear();
     if (m_updatable) {
-        m_table = table;
-        m_keyColumn = m_db->primaryKeyOf(table);
+        m_table = shape->table;
+        m_keyColumn = m_db->primaryKeyOf(m_table);
         m_keyIndex = -1;
         for (int i = 0; i < n && !m_keyColumn.isEmpty(); ++i)
             if (m_originColumns[i].compare(m_keyColumn, Qt::CaseInsensitive) == 0)
                 m_keyIndex = i;
-        // The rowid of every row is fetched beside the columns so that edits find their row.
-        const int select = m_sql.indexOf(QLatin1String("SELECT"), 0, Qt::CaseInsensitive);
-        QString withKey = m_sql;
-        withKey.insert(select + 6, QStringLiteral(" \"%1\".rowid AS %2,").arg(table, kRowIdAlias));
-        if (m_db->prepareCached(withKey.toUtf8(), &m_stmt) == SQLITE_OK) {
+        if (m_db->prepareCached(shape->keyedSql, &m_stmt) == SQLITE_OK) {
             m_keyOffset = 1;
+            bindParameters(m_stmt);
         } else {
             m_db->releaseCached(m_stmt);
             m_stmt = nullptr;
             m_updatable = false;
             m_table.clear();
+            if (!probe.stmt) {
+                if (probe.prepare(m_db, sql) != SQLITE_OK)
+                    m_db->raiseLastError(m_sourceSql);
+                bindParameters(probe.stmt);
+            }
         }
     }
     if (!m_stmt) {
@@ -313,6 +329,12 @@ void Recordset::load()
     } else {
         setPosition(0);
     }
+}
+
+void Recordset::bindParameters(sqlite3_stmt *stmt) const
+{
+    for (int i = 0; i < m_params.size(); ++i)
+        bindValue(stmt, i + 1, m_params[i]);
 }
 
 bool Recordset::readRow()
@@ -371,8 +393,10 @@ int Recordset::countRows()
     while (body.endsWith(QLatin1Char(';')))
         body.chop(1);
     Statement st;
-    if (st.prepare(m_db, QStringLiteral("SELECT count(*) FROM (%1)").arg(body).toUtf8()) != SQLITE_OK
-        || sqlite3_step(st.stmt) != SQLITE_ROW)
+    if (st.prepare(m_db, QStringLiteral("SELECT count(*) FROM (%1)").arg(body).toUtf8()) != SQLITE_OK)
+        m_db->raiseLastError(m_sourceSql);
+    bindParameters(st.stmt);
+    if (sqlite3_step(st.stmt) != SQLITE_ROW)
         m_db->raiseLastError(m_sourceSql);
     return std::max(static_cast<int>(sqlite3_column_int64(st.stmt, 0)), static_cast<int>(m_rows.size()));
 }

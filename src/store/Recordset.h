@@ -10,6 +10,18 @@
 class Database;
 struct sqlite3_stmt;
 
+//! The columns of a statement's result, kept by the database per statement text: names, the base
+//! column and table of each ("" when computed), how values are read, and the one table the rows can
+//! be written back to ("" when none).
+struct RecordsetShape {
+    QStringList columns;
+    QStringList originColumns;
+    QStringList originTables;
+    QVector<int> kinds;
+    QString table;
+    QByteArray keyedSql;   // the statement with the table's rowid read first, when table is set
+};
+
 //! DAO recordset types: dynaset (2) can be written when it rests on one table; snapshot (4) never.
 enum class RecordsetType { Table = 1, Dynaset = 2, Snapshot = 4 };
 
@@ -109,11 +121,13 @@ private:
     void find(const QString &criteria, int start, int step);
     void touch(int pos) { if (pos + 1 > m_populated) m_populated = pos + 1; }
     bool readRow();
+    void bindParameters(sqlite3_stmt *stmt) const;
     void finishReading();
 
     Database *m_db;
     QString m_sourceSql;   // as given (Jet)
     QString m_sql;         // translated
+    QVector<QVariant> m_params;   // values of ?1..?n in m_sql
     RecordsetType m_type;
     QStringList m_columns;
     QStringList m_originColumns;   // column in the base table, per column ("" if computed)
