@@ -7,7 +7,7 @@ set -euo pipefail
 cd "$(dirname "$0")"
 
 PACKAGES=(build-essential cmake ninja-build ccache pkg-config
-  qt6-base-dev qt6-base-dev-tools libqt6sql6-sqlite qt6-declarative-dev libqt6opengl6-dev
+  qt6-base-dev qt6-base-dev-tools libqt6sql6-sqlite qt6-declarative-dev libqt6opengl6-dev libqt6svg6
   libsqlite3-dev sqlite3 libgtest-dev googletest poppler-utils
   xvfb xauth fonts-dejavu-core)
 

@@ -1,6 +1,6 @@
 // A first look at Zobrel driven by a script. Run it headless on a copy of the database:
 //
-//   mkdir -p /tmp/zob && cp build/bin/ZOB.sqlite /tmp/zob/
+//   mkdir -p /tmp/zob && cp build/share/zobrel/ZOB.sqlite /tmp/zob/
 //   QT_QPA_PLATFORM=offscreen build/bin/zobrel --home /tmp/zob --user newcomer \
 //       --script examples/tour.js --quit-after-script
 //

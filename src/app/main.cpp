@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "DataFolder.h"
 #include "Diagnostics.h"
 #include "QtServices.h"
 #include "QtWindowHost.h"
@@ -16,30 +17,66 @@
 #include <QCommandLineParser>
 #include <QDir>
 #include <QFileInfo>
+#include <QIcon>
 #include <cstdio>
 #include <memory>
 
-int main(int argc, char *argv[])
-{
-    QApplication app(argc, argv);
-    QApplication::setApplicationName(QStringLiteral("Zobrel"));
-    QApplication::setApplicationVersion(QStringLiteral(ZOB_VERSION));
+namespace {
 
-    QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral("Wildlife exposure scenarios for ecological risk assessment."));
+void setProgramNames()
+{
+    QCoreApplication::setApplicationName(QStringLiteral("Zobrel"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(ZOB_VERSION));
+}
+
+void describeOptions(QCommandLineParser &parser)
+{
+    parser.setApplicationDescription(QStringLiteral(
+        "Wildlife exposure scenarios for ecological risk assessment.\n\n"
+        "Without --home the data live in the per-user data folder (%1), made on the first start from the "
+        "seeded template.").arg(QDir::toNativeSeparators(DataFolder::defaultHome())));
     parser.addHelpOption();
     parser.addVersionOption();
-    const QCommandLineOption homeOpt(QStringLiteral("home"), QStringLiteral("Program folder holding ZOB.sqlite."), QStringLiteral("DIR"));
-    const QCommandLineOption userOpt(QStringLiteral("user"), QStringLiteral("Login name to use instead of the system's."), QStringLiteral("NAME"));
-    const QCommandLineOption diagOpt(QStringLiteral("diag"), QStringLiteral("Trace level 0-4."), QStringLiteral("LEVEL"), QStringLiteral("0"));
-    const QCommandLineOption scriptOpt(QStringLiteral("script"), QStringLiteral("Run a JavaScript file after start-up."), QStringLiteral("FILE.js"));
-    const QCommandLineOption quitOpt(QStringLiteral("quit-after-script"), QStringLiteral("End the program when the script ends."));
-    const QCommandLineOption timeoutOpt(QStringLiteral("script-timeout"), QStringLiteral("Time limit of the script (default 120)."),
-                                        QStringLiteral("SECONDS"), QStringLiteral("120"));
-    parser.addOptions({homeOpt, userOpt, diagOpt, scriptOpt, quitOpt, timeoutOpt});
+    parser.addOptions({
+        {QStringLiteral("home"), QStringLiteral("Program folder holding ZOB.sqlite (default: the per-user data folder)."), QStringLiteral("DIR")},
+        {QStringLiteral("user"), QStringLiteral("Login name to use instead of the system's."), QStringLiteral("NAME")},
+        {QStringLiteral("diag"), QStringLiteral("Trace level 0-4."), QStringLiteral("LEVEL"), QStringLiteral("0")},
+        {QStringLiteral("script"), QStringLiteral("Run a JavaScript file after start-up."), QStringLiteral("FILE.js")},
+        {QStringLiteral("quit-after-script"), QStringLiteral("End the program when the script ends.")},
+        {QStringLiteral("script-timeout"), QStringLiteral("Time limit of the script (default 120)."), QStringLiteral("SECONDS"), QStringLiteral("120")},
+    });
+}
+
+//! --help and --version print and end the process under a plain core application, before any window
+//! system is touched, so that they work without a display.
+void answerHelpOrVersion(int argc, char *argv[])
+{
+    QCoreApplication core(argc, argv);
+    setProgramNames();
+    QCommandLineParser parser;
+    describeOptions(parser);
+    parser.parse(core.arguments());
+    for (const char *name : {"help", "help-all", "version"})
+        if (parser.isSet(QLatin1String(name)))
+            parser.process(core);
+}
+
+}  // namespace
+
+int main(int argc, char *argv[])
+{
+    answerHelpOrVersion(argc, argv);
+    QApplication app(argc, argv);
+    setProgramNames();
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/zobrel.svg")));
+    QApplication::setDesktopFileName(QStringLiteral("zobrel"));
+
+    // The window application takes its own options (-platform, ...) first; the rest are the program's.
+    QCommandLineParser parser;
+    describeOptions(parser);
     parser.process(app);
 
-    const QString script = parser.value(scriptOpt);
+    const QString script = parser.value(QStringLiteral("script"));
     if (!script.isEmpty() && !QFileInfo::exists(script)) {
         std::fprintf(stderr, "The script %s does not exist.\n", qPrintable(script));
         return 2;
@@ -64,9 +101,15 @@ int main(int argc, char *argv[])
     session.cursor = &cursor;
     session.help = &help;
     session.windows = &host;
-    session.home = parser.isSet(homeOpt) ? QDir(parser.value(homeOpt)).absolutePath() : QCoreApplication::applicationDirPath();
-    session.userOverride = parser.value(userOpt);
-    session.gDiagLevel = static_cast<qint16>(std::clamp(parser.value(diagOpt).toInt(), 0, 4));
+    // Without --home the program folder is the user's data folder, made from the template once.
+    const bool ownHome = !parser.isSet(QStringLiteral("home"));
+    session.home = ownHome ? DataFolder::defaultHome() : QDir(parser.value(QStringLiteral("home"))).absolutePath();
+    const bool firstStart = ownHome
+                            && DataFolder::prepare(session.home, Session::databaseFileName(),
+                                                   DataFolder::startingDatabase(QCoreApplication::applicationDirPath(), Session::databaseFileName()))
+                                   == DataFolder::Outcome::Created;
+    session.userOverride = parser.value(QStringLiteral("user"));
+    session.gDiagLevel = static_cast<qint16>(std::clamp(parser.value(QStringLiteral("diag")).toInt(), 0, 4));
 
     // Without a database there is nothing to show: one message, then the process ends.
     if (!session.Main()) {
@@ -82,6 +125,8 @@ int main(int argc, char *argv[])
 
     frmMDI mdi(session, host);
     mdi.show();
+    if (firstStart)
+        session.msgBox(DataFolder::firstStartMessage(session.home), QStringLiteral("Zobrel"), MsgIcon::Information);
     mdi.Form_Load();
 
 #ifdef ZOB_HAVE_AUTOMATION
@@ -89,7 +134,8 @@ int main(int argc, char *argv[])
     if (scriptMessages) {
         runner = std::make_unique<ScriptRunner>(session, host, *scriptMessages);
         runner->exposeProgramObjects();
-        runner->start(script, parser.isSet(quitOpt), parser.value(timeoutOpt).toInt());
+        runner->start(script, parser.isSet(QStringLiteral("quit-after-script")),
+                      parser.value(QStringLiteral("script-timeout")).toInt());
     }
 #endif
     const int code = app.exec();

@@ -2,6 +2,7 @@
 #include "Session.h"
 
 #include "Diagnostics.h"
+#include "PathSpelling.h"
 #include "VbError.h"
 
 #include <QDir>
@@ -117,7 +118,7 @@ void Session::AddUser()
             auto rs = gDB->OpenRecordset(QStringLiteral("tblUser"), RecordsetType::Dynaset);
             rs->AddNew();
             rs->setField(QStringLiteral("USER"), gUserName);
-            rs->setField(QStringLiteral("PathDatabase"), join(home, QStringLiteral("ZOB.SQLITE")));
+            rs->setField(QStringLiteral("PathDatabase"), keptPath(join(home, QStringLiteral("ZOB.SQLITE"))));
             rs->setField(QStringLiteral("PathExport"), join(home, QStringLiteral("Export")));
             rs->setField(QStringLiteral("PathProject"), join(base, QStringLiteral("Project")));
             rs->setField(QStringLiteral("PathScenario"), join(base, QStringLiteral("Scenario")));

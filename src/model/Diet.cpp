@@ -150,13 +150,16 @@ void AddWildlifeDietItems(Session &s, qint32 dietId)
             to->setField(QStringLiteral("WaterPercent"), from->field(QStringLiteral("Mean")));
             to->setField(QStringLiteral("WaterPercentDS"), from->field(QStringLiteral("WaterDS")));
             copy("TrophicLevelID");
-            // The trophic level is frozen by value; the criteria text carries the id as it is, so a
-            // null id makes the lookup itself fail.
-            const QString criteria = QStringLiteral("TrophicLevelID = ") + joinText(from->field(QStringLiteral("TrophicLevelID")));
-            to->setField(QStringLiteral("TrophicLevel"),
-                         s.Lookup(QStringLiteral("tblTrophicLevel"), QStringLiteral("TrophicLevel"), criteria));
-            to->setField(QStringLiteral("TrophiclevelDS"),
-                         s.Lookup(QStringLiteral("tblTrophicLevel"), QStringLiteral("DataSourceID"), criteria));
+            // The trophic level is frozen by value. An item without a trophic-level row has no level
+            // to freeze: it is copied with the level empty, without a lookup that could only fail.
+            const QVariant levelId = from->field(QStringLiteral("TrophicLevelID"));
+            if (!levelId.isNull()) {
+                const QString criteria = QStringLiteral("TrophicLevelID = ") + joinText(levelId);
+                to->setField(QStringLiteral("TrophicLevel"),
+                             s.Lookup(QStringLiteral("tblTrophicLevel"), QStringLiteral("TrophicLevel"), criteria));
+                to->setField(QStringLiteral("TrophiclevelDS"),
+                             s.Lookup(QStringLiteral("tblTrophicLevel"), QStringLiteral("DataSourceID"), criteria));
+            }
             for (const char *column : {"AEID", "GrossEnergyID", "KingdomID", "SubkingdomID", "PhylumID", "ClassID",
                                        "OrderID", "FamilyID", "DataSourceID", "ComponentID", "LifestageID", "Genus",
                                        "Species", "N_Unit", "Comments", "Bio_Availability"})

@@ -163,35 +163,3 @@ ScenarioWindow *builderLink(QtWindowHost &host)
 {
     return linkOf<BuilderLink>(host, "BuilderLink");
 }
-
-QString resolvePathCase(const QString &path)
-{
-    if (path.isEmpty())
-        return path;
-    const QString clean = QDir::cleanPath(QDir::fromNativeSeparators(path));
-    if (QFileInfo::exists(clean))
-        return clean;
-    const QStringList parts = clean.split(QLatin1Char('/'));
-    QString current = clean.startsWith(QLatin1Char('/')) ? QStringLiteral("/") : QString();
-    for (const QString &part : parts) {
-        if (part.isEmpty())
-            continue;
-        QString next = current.isEmpty() ? part : Session::join(current, part);
-        if (!QFileInfo::exists(next)) {
-            const QDir dir(current.isEmpty() ? QStringLiteral(".") : current);
-            const QStringList entries = dir.entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
-            bool found = false;
-            for (const QString &entry : entries) {
-                if (entry.compare(part, Qt::CaseInsensitive) == 0) {
-                    next = current.isEmpty() ? entry : Session::join(current, entry);
-                    found = true;
-                    break;
-                }
-            }
-            if (!found)
-                return clean;
-        }
-        current = next;
-    }
-    return current;
-}

@@ -85,10 +85,7 @@ bool frmGetDir::Form_KeyDown(int keyCode, int shift)
 void frmGetDir::cmdControl_Click(int index)
 {
     if (index == 0) {
-        QString dir = m_txtDir->text();
-        if (!dir.endsWith(QLatin1Char('/')))
-            dir += QLatin1Char('/');
-        session().gSelectedDir = dir;
+        session().gSelectedDir = chosenFolder(m_txtDir->text());
     }
     unloadMe();
 }

@@ -8,7 +8,7 @@ class FolderList;
 class QLineEdit;
 
 //! Picks a folder. Shown modally; it starts at the folder in gSelectedDir and, on OK, answers there
-//! with the chosen folder and a closing separator. Cancel leaves gSelectedDir as it was.
+//! with the chosen folder as chosenFolder gives it. Cancel leaves gSelectedDir as it was.
 class frmGetDir : public ZobWindow {
     Q_OBJECT
 public:

@@ -2,6 +2,7 @@
 #include "frmProject.h"
 
 #include "ControlEvents.h"
+#include "ControlValue.h"
 #include "DataControl.h"
 #include "Diagnostics.h"
 #include "FormBuilder.h"
@@ -10,46 +11,37 @@
 #include "Session.h"
 #include "SystemLinks.h"
 #include "Utilities.h"
+#include "WindowLinks.h"
 #include "ZobToolbar.h"
 #include "clsScenario.h"
-#include "frmProjectList.h"
 #include "frmZoom.h"
 
 #include <QAction>
 #include <QComboBox>
-#include <QGridLayout>
-#include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QVBoxLayout>
 
 namespace {
 const WindowRegistration<frmProject> reg(QStringLiteral("frmProject"));
 const QString kCalculations = QStringLiteral("frmZOBCalculations");
-const char *const kHelpProperty = "HelpContextID";
 
-const QString kFields[7] = {QStringLiteral("Name"),      QStringLiteral("Purpose"),  QStringLiteral("Author"),
-                            QStringLiteral("Latitude"),  QStringLiteral("Longitude"), QStringLiteral("Location"),
-                            QStringLiteral("Comments")};
-const QString kCaptions[7] = {QStringLiteral("Project Name:"), QStringLiteral("Description:"), QStringLiteral("Author:"),
-                              QStringLiteral("Latitude:"),     QStringLiteral("Longitude:"),   QStringLiteral("Location:"),
-                              QStringLiteral("Comments:")};
+//! The project's boxes txtProject(0..6), their columns, captions and lines (0: a one-line box),
+//! in the order the grid shows them; two boxes share a row where the next says so.
+struct ProjectField {
+    int index;
+    const char *field;
+    const char *caption;
+    int lines;
+    bool rowEnds;
+};
+const ProjectField kFields[] = {
+    {0, "Name", "Project Name:", 0, true},  {2, "Author", "Author:", 0, true},
+    {1, "Purpose", "Description:", 3, true}, {5, "Location", "Location:", 0, false},
+    {3, "Latitude", "Latitude:", 0, false},  {4, "Longitude", "Longitude:", 0, true},
+    {6, "Comments", "Comments:", 3, true},
+};
 
-QString boxText(const QWidget *w)
-{
-    if (auto *e = qobject_cast<const QLineEdit *>(w)) return e->text();
-    if (auto *p = qobject_cast<const QPlainTextEdit *>(w)) return p->toPlainText();
-    return {};
-}
-
-Recordset &currentRecord(DataControl *dc)
-{
-    Recordset *rs = dc->recordset();
-    if (!rs || dc->currentRow() < 0)
-        throw VbError(VbErr::NoCurrentRecord, QStringLiteral("No current record."));
-    return *rs;
-}
 }  // namespace
 
 frmProject::frmProject(Session &session, QtWindowHost &host) : ZobWindow(session, host, QStringLiteral("frmProject"))
@@ -57,174 +49,88 @@ frmProject::frmProject(Session &session, QtWindowHost &host) : ZobWindow(session
     setCaption(QStringLiteral("Project"));
     HelpContextID = 3512;
     FormBuilder b(this);
-    ZobToolbar *tb = b.toolbar();
-    tb->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    tb->addButton(QStringLiteral("New"), QStringLiteral("Make a new project"), QStringLiteral("New"));
-    tb->addButton(QStringLiteral("Save"), QStringLiteral("Save the project"), QStringLiteral("Save"));
-    tb->addSeparatorButton();
-    tb->addButton(QStringLiteral("Open"), QStringLiteral("Open the selected scenario by its file"), QStringLiteral("Open"));
-    tb->addButton(QStringLiteral("Select"), QStringLiteral("Edit the selected scenario"), QStringLiteral("Edit"));
-    tb->addButton(QStringLiteral("Calculations"), QStringLiteral("Review the calculations of the selected scenario"),
-                  QStringLiteral("Calculations"));
-    tb->addButton(QStringLiteral("Print"), QStringLiteral("Preview and print the project summary"), QStringLiteral("Print"));
-    tb->addSeparatorButton();
-    tb->addButton(QStringLiteral("Close"), QStringLiteral("Close the project (it is saved)"), QStringLiteral("Close"));
-    tb->addButton(QStringLiteral("Help"), QStringLiteral("Help on the project window"), QStringLiteral("Help"));
+    ZobToolbar *tb = buildToolbar(b, {
+        {"New", "Make a new project", "New", [this] { this->session().gProject->AddNew(); }},
+        {"Save", "Save the project", "Save", [this] { saveProject(); }},
+        ToolButton::separator(),
+        {"Open", "Open the selected scenario by its file", "Open", [this] { openScenarioFile(); }},
+        {"Select", "Edit the selected scenario", "Edit", [this] { OpenSelectedScenario(); }},
+        {"Calculations", "Review the calculations of the selected scenario", "Calculations", [this] { showCalculations(); }},
+        {"Print", "Preview and print the project summary", "Print", [this] { this->host().show(QStringLiteral("ProjectSummary")); }},
+        ToolButton::separator(),
+        {"Close", "Close the project (it is saved)", "Close", [this] { unloadMe(); }},
+        {"Help", "Help on the project window", "Help", [this] { showHelp(); }},
+    });
     if (!QtWindowHost::isRegistered(QStringLiteral("ProjectSummary"))) {
         tb->button(QStringLiteral("Print"))->setEnabled(false);
         tb->button(QStringLiteral("Print"))->setToolTip(QStringLiteral("The project summary report is not available yet in this version of the program."));
     }
 
-    // The project's fields, in reading order.
-    FormBuilder project = b.frame(QStringLiteral("fraProject"), QStringLiteral("Project"));
-    auto *fields = new QWidget(this);
-    auto *g = new QGridLayout(fields);
-    g->setContentsMargins(0, 0, 0, 0);
-    project.add(fields, QStringLiteral("fraProjectFields"));
-    for (int i = 0; i < 7; ++i) {
-        QWidget *box;
-        if (i == 1 || i == 6) {
-            auto *memo = new QPlainTextEdit(fields);
-            memo->setTabChangesFocus(true);
-            memo->setFixedHeight(memo->fontMetrics().lineSpacing() * 3 + 12);
-            memo->setToolTip(QStringLiteral("Double-click to edit the text in a larger window."));
-            box = memo;
-        } else {
-            box = new QLineEdit(fields);
-        }
-        box->setObjectName(arrayName(QStringLiteral("txtProject"), i));
+    FormBuilder fields = b.frame(QStringLiteral("fraProject"), QStringLiteral("Project")).fields(2);
+    m_dcProject = b.hiddenData(QStringLiteral("dcProject"));
+    for (const ProjectField &f : kFields) {
+        const QString caption = QString::fromLatin1(f.caption);
+        QWidget *box = f.lines ? static_cast<QWidget *>(fields.memo(QStringLiteral("txtProject"), f.index, caption, f.lines))
+                               : fields.textBox(QStringLiteral("txtProject"), f.index, caption);
         FormBuilder::userTyped(box);
-        m_txtProject[i] = box;
+        m_dcProject->bind(box, QString::fromLatin1(f.field));
+        m_txtProject[f.index] = box;
+        if (f.lines) {
+            box->setToolTip(QStringLiteral("Double-click to edit the text in a larger window."));
+            connect(ControlEvents::of(box), &ControlEvents::DblClick, this, [this, i = f.index] { zoom(i); });
+        }
+        if (f.index == 5)
+            m_cboStateProvince = fields.combo(QStringLiteral("cboStateProvince"), QStringLiteral("Province/State:"));
+        if (f.rowEnds)
+            fields.nextRow();
     }
-    m_cboStateProvince = new QComboBox(fields);
-    m_cboStateProvince->setObjectName(QStringLiteral("cboStateProvince"));
-    auto caption = [&](int i) {
-        auto *l = new QLabel(kCaptions[i], fields);
-        l->setObjectName(QStringLiteral("lbl_") + m_txtProject[i]->objectName());
-        l->setBuddy(m_txtProject[i]);
-        return l;
-    };
-    auto *lblState = new QLabel(QStringLiteral("Province/State:"), fields);
-    lblState->setObjectName(QStringLiteral("lbl_cboStateProvince"));
-    lblState->setBuddy(m_cboStateProvince);
-    g->addWidget(caption(0), 0, 0);
-    g->addWidget(m_txtProject[0], 0, 1, 1, 3);
-    g->addWidget(caption(2), 1, 0);
-    g->addWidget(m_txtProject[2], 1, 1, 1, 3);
-    g->addWidget(caption(1), 2, 0, Qt::AlignTop);
-    g->addWidget(m_txtProject[1], 2, 1, 1, 3);
-    g->addWidget(caption(5), 3, 0);
-    g->addWidget(m_txtProject[5], 3, 1);
-    g->addWidget(lblState, 3, 2);
-    g->addWidget(m_cboStateProvince, 3, 3);
-    g->addWidget(caption(3), 4, 0);
-    g->addWidget(m_txtProject[3], 4, 1);
-    g->addWidget(caption(4), 4, 2);
-    g->addWidget(m_txtProject[4], 4, 3);
-    g->addWidget(caption(6), 5, 0, Qt::AlignTop);
-    g->addWidget(m_txtProject[6], 5, 1, 1, 3);
-    g->setColumnStretch(1, 1);
-    g->setColumnStretch(3, 1);
+    m_dcProject->bind(m_cboStateProvince, QStringLiteral("StateProvinceID"));
 
     // The project's scenarios with their commands beside them.
     FormBuilder scenarios = b.frame(QStringLiteral("fraScenarios"), QStringLiteral("Scenarios"), true);
-    auto *left = new QWidget(this);
-    scenarios.add(left, QStringLiteral("fraScenarioList"));
-    FormBuilder l(left);
-    left->layout()->setContentsMargins(0, 0, 0, 0);
-    m_ssGrdProjectScenarios = l.grid(QStringLiteral("ssGrdProjectScenarios"));
-    m_txtScenarioDescription = l.memo(QStringLiteral("txtScenarioDescription"), QStringLiteral("Scenario Description:"));
+    FormBuilder list = scenarios.column();
+    m_dcScenario = b.hiddenData(QStringLiteral("dcScenario"));
+    m_ssGrdProjectScenarios = list.grid(QStringLiteral("ssGrdProjectScenarios"), m_dcScenario,
+        {{"ScenarioID", "Id"}, {"Scenario_Type", "Type"}, {"Scenario_FilePath", "Folder"}, {"Scenario_FileName", "File Name"},
+         {"Scenario_LastSaved", "Last Saved"}, {"Scenario_Identifier_1", "Scenario"}});
+    m_txtScenarioDescription = list.memo(QStringLiteral("txtScenarioDescription"), QStringLiteral("Scenario Description:"), 3);
     m_txtScenarioDescription->setReadOnly(true);
-    m_txtScenarioDescription->setFixedHeight(m_txtScenarioDescription->fontMetrics().lineSpacing() * 3 + 12);
-    if (auto *lbl = findChild<QLabel *>(QStringLiteral("lbl_txtScenarioDescription")))
-        lbl->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    auto *right = new QWidget(this);
-    scenarios.add(right, QStringLiteral("fraScenarioCommands"));
-    FormBuilder r(right);
-    right->layout()->setContentsMargins(0, 0, 0, 0);
-    const struct { int index; const char *caption; } buttons[] = {
-        {3, "Create &Wildlife Scenario"}, {4, "Create Contaminant &Scenario..."}, {6, "&Edit Scenario"},
-        {5, "&Calculations"}, {0, "&Link Scenario"}, {1, "&Unlink Scenario"}, {2, "Close"}};
-    for (const auto &button : buttons) {
-        QPushButton *p = r.button(QStringLiteral("cmdScenario"), button.index, QString::fromLatin1(button.caption));
-        m_cmdScenario[button.index] = p;
-        const int index = button.index;
-        connect(p, &QPushButton::clicked, this, [this, index] { cmdScenario_Click(index); });
-    }
-    r.stretch();
-    m_cmdScenario[4]->setToolTip(QStringLiteral("Contaminant scenarios are not part of this program."));
-
-    m_dcProject = b.dataControl(QStringLiteral("dcProject"));
-    m_dcScenario = b.dataControl(QStringLiteral("dcScenario"));
-    m_dcStateProvince = b.dataControl(QStringLiteral("dcStateProvince"));
-    m_dcProject->setVisible(false);
-    m_dcScenario->setVisible(false);
-    m_dcStateProvince->setVisible(false);
-    for (int i = 0; i < 7; ++i)
-        m_dcProject->bindText(m_txtProject[i], kFields[i]);
-    m_dcProject->bindCombo(m_cboStateProvince, QStringLiteral("StateProvinceID"));
-    m_ssGrdProjectScenarios->setDataControl(m_dcScenario);
-
-    // Reading order for the keyboard.
-    QWidget *order[] = {m_txtProject[0], m_txtProject[2], m_txtProject[1], m_txtProject[5], m_cboStateProvince,
-                        m_txtProject[3], m_txtProject[4], m_txtProject[6], m_ssGrdProjectScenarios,
-                        m_txtScenarioDescription, m_cmdScenario[3], m_cmdScenario[4], m_cmdScenario[6],
-                        m_cmdScenario[5], m_cmdScenario[0], m_cmdScenario[1], m_cmdScenario[2]};
-    for (size_t i = 1; i < std::size(order); ++i)
-        setTabOrder(order[i - 1], order[i]);
+    FormBuilder commands = scenarios.column(0);
+    commandButtons(commands, QStringLiteral("cmdScenario"), {
+             {3, "Create &Wildlife Scenario", [this] { newWildlifeScenario(); }},
+             {4, "Create Contaminant &Scenario...", {}},  // contaminant scenarios are not part of this program
+             {6, "&Edit Scenario", [this] { OpenSelectedScenario(); }},
+             {5, "&Calculations", [this] { showCalculations(); }},
+             {0, "&Link Scenario", [this] { linkScenario(true); }},
+             {1, "&Unlink Scenario", [this] { linkScenario(false); }},
+             {2, "Close", [this] { unloadMe(); }}});
+    commands.stretch();
+    arrayItem<QWidget>(this, QStringLiteral("cmdScenario"), 4)->setToolTip(QStringLiteral("Contaminant scenarios are not part of this program."));
+    setHelpContext(m_ssGrdProjectScenarios, 3512);
+    setHelpContext(m_txtScenarioDescription, 3509);
     resize(820, 640);
 
-    connect(tb, &ZobToolbar::ButtonClick, this, [this](int, const QString &key) { TB_MDI_ButtonClick(key); });
     connect(m_ssGrdProjectScenarios, &DataGrid::RowColChange, this, [this](int, int) { scenarioRowChosen(); });
     // Each reading of the scenarios fits the columns to what they now hold.
     connect(m_dcScenario, &DataControl::refreshed, m_ssGrdProjectScenarios, &QTableView::resizeColumnsToContents);
-    connect(m_dcScenario, &DataControl::Reposition, this, [this] {
-        const int row = m_dcScenario->currentRow();
-        if (row >= 0 && !m_dcScenario->value(row, QStringLiteral("Scenario_FileName")).isNull())
-            scenarioRowChosen();
-    });
-    connect(m_ssGrdProjectScenarios, &DataGrid::DblClick, this, [this] {
-        if (m_dcScenario->rowCount() == 0) {
-            this->session().msgBox(QStringLiteral("Please select a scenario..."), QString(), MsgIcon::Information);
-            return;
-        }
-        guarded(this->session(), {ErrForm::Shared, QStringLiteral("ssGrdProjectScenarios_DblClick")}, [&] { OpenSelectedScenario(); });
-    });
+    connect(m_dcScenario, &DataControl::Reposition, this, &frmProject::scenarioRowMoved);
+    connect(m_ssGrdProjectScenarios, &DataGrid::DblClick, this, &frmProject::scenarioDoubleClicked);
     connect(m_dcProject, &DataControl::Reposition, this, [this] {
-        const int row = m_dcProject->currentRow();
-        if (row >= 0)
-            PuS_SetMessage(m_dcProject->value(row, QStringLiteral("Name")).toString());
+        if (m_dcProject->currentRow() >= 0)
+            PuS_SetMessage(m_dcProject->value(m_dcProject->currentRow(), QStringLiteral("Name")).toString());
     });
-    for (int i : {1, 6})
-        connect(ControlEvents::of(m_txtProject[i]), &ControlEvents::DblClick, this, [this, i] { zoom(i); });
 }
 
 void frmProject::Form_Load()
 {
     guarded(session(), {ErrForm::Shared, QStringLiteral("frmProject Form_Load")}, [&] {
-        m_ssGrdProjectScenarios->setProperty(kHelpProperty, 3512);
-        m_cmdScenario[0]->setProperty(kHelpProperty, 3512);
-        m_txtScenarioDescription->setProperty(kHelpProperty, 3509);
         for (QWidget *box : m_txtProject)
-            if (auto *e = qobject_cast<QLineEdit *>(box)) e->clear();
-            else if (auto *p = qobject_cast<QPlainTextEdit *>(box)) p->clear();
-        m_dcProject->setDatabase(session().gDB);
-        m_dcScenario->setDatabase(session().gDB);
-        m_dcStateProvince->setDatabase(session().gDB);
+            ControlValue::clear(box);
+        for (DataControl *dc : {m_dcProject, m_dcScenario})
+            dc->setDatabase(session().gDB);
         // The state combo: every state and province, by type and name.
-        m_dcStateProvince->setRecordSource(QStringLiteral("Select * From tblStateProvince Order By Type, Description"));
-        m_dcStateProvince->Refresh();
-        m_cboStateProvince->clear();
-        for (int row = 0; row < m_dcStateProvince->rowCount(); ++row)
-            m_cboStateProvince->addItem(m_dcStateProvince->value(row, QStringLiteral("Description")).toString(),
-                                        m_dcStateProvince->value(row, QStringLiteral("StateProvinceID")));
-        m_cboStateProvince->setCurrentIndex(-1);
-        m_ssGrdProjectScenarios->setColumnCaption(QStringLiteral("ScenarioID"), QStringLiteral("Id"));
-        m_ssGrdProjectScenarios->setColumnCaption(QStringLiteral("Scenario_Type"), QStringLiteral("Type"));
-        m_ssGrdProjectScenarios->setColumnCaption(QStringLiteral("Scenario_FilePath"), QStringLiteral("Folder"));
-        m_ssGrdProjectScenarios->setColumnCaption(QStringLiteral("Scenario_FileName"), QStringLiteral("File Name"));
-        m_ssGrdProjectScenarios->setColumnCaption(QStringLiteral("Scenario_LastSaved"), QStringLiteral("Last Saved"));
-        m_ssGrdProjectScenarios->setColumnCaption(QStringLiteral("Scenario_Identifier_1"), QStringLiteral("Scenario"));
+        fillCombo(m_cboStateProvince, *session().gDB, QStringLiteral("Select * From tblStateProvince Order By Type, Description"),
+                  QStringLiteral("Description"), QStringLiteral("StateProvinceID"));
     });
 }
 
@@ -247,21 +153,6 @@ void frmProject::Form_Unload(bool &cancel)
     refreshProjectList();
 }
 
-bool frmProject::Form_KeyDown(int keyCode, int shift)
-{
-    Q_UNUSED(shift);
-    if (keyCode != 112 || !session().help)
-        return false;
-    int number = HelpContextID;
-    for (QWidget *w = focusWidget(); w && w != this; w = w->parentWidget())
-        if (w->property(kHelpProperty).isValid()) {
-            number = w->property(kHelpProperty).toInt();
-            break;
-        }
-    session().help->showTopic(number);
-    return true;
-}
-
 void frmProject::PuS_SetMessage(const QString &text)
 {
     setCaption(QStringLiteral("Project: ") + text.toUpper());
@@ -278,20 +169,18 @@ void frmProject::show()
 
 QString frmProject::projectText(int index) const
 {
-    return index >= 0 && index < 7 ? boxText(m_txtProject[index]) : QString();
+    return index >= 0 && index < 7 ? ControlValue::text(m_txtProject[index]) : QString();
 }
 
 void frmProject::setProjectText(int index, const QString &text)
 {
-    if (index < 0 || index >= 7)
-        return;
-    if (auto *e = qobject_cast<QLineEdit *>(m_txtProject[index])) e->setText(text);
-    else if (auto *p = qobject_cast<QPlainTextEdit *>(m_txtProject[index])) p->setPlainText(text);
+    if (index >= 0 && index < 7)
+        ControlValue::setText(m_txtProject[index], text);
 }
 
 qint32 frmProject::stateProvinceId() const
 {
-    return m_cboStateProvince->currentIndex() < 0 ? 0 : m_cboStateProvince->currentData().toInt();
+    return ControlValue::value(m_cboStateProvince).toInt();
 }
 
 void frmProject::clearControls()
@@ -312,7 +201,7 @@ void frmProject::clearControls()
 void frmProject::setScenarioCommands(bool enabled)
 {
     for (int i : {0, 3, 4, 6})
-        m_cmdScenario[i]->setEnabled(enabled);
+        arrayItem<QWidget>(this, QStringLiteral("cmdScenario"), i)->setEnabled(enabled);
     if (enabled)
         followProject();
 }
@@ -352,75 +241,47 @@ void frmProject::offerFileAgain()
 
 void frmProject::refreshProjectList()
 {
-    if (auto *list = qobject_cast<frmProjectList *>(host().loaded(QStringLiteral("frmProjectList"))))
+    if (auto *list = host().loadedLink<ListView>(QStringLiteral("frmProjectList")))
         list->refreshList();
 }
 
 // --- commands ---
 
-void frmProject::TB_MDI_ButtonClick(const QString &key)
+void frmProject::saveProject()
 {
-    guarded(session(), {ErrForm::Shared, QStringLiteral("TB_MDI_ButtonClick")}, [&] {
-        if (key == QLatin1String("New")) {
-            session().gProject->AddNew();
-        } else if (key == QLatin1String("Open")) {
-            openScenarioFile();
-        } else if (key == QLatin1String("Close")) {
-            unloadMe();
-        } else if (key == QLatin1String("Calculations")) {
-            showCalculations();
-        } else if (key == QLatin1String("Save")) {
-            offerFileAgain();
-            session().gProject->Save();
-            session().gProject->SetCmd(true);
-        } else if (key == QLatin1String("Select")) {
-            OpenSelectedScenario();
-        } else if (key == QLatin1String("Print")) {
-            host().show(QStringLiteral("ProjectSummary"));
-        } else if (key == QLatin1String("Help")) {
-            showHelp();
-        }
-    });
-    session().resetCursor();
+    offerFileAgain();
+    session().gProject->Save();
+    session().gProject->SetCmd(true);
 }
 
-void frmProject::cmdScenario_Click(int index)
+void frmProject::scenarioRowMoved()
 {
-    guarded(session(), {ErrForm::Shared, QStringLiteral("cmdScenario_Click")}, [&] {
-        switch (index) {
-        case 0:
-        case 1:
-            linkScenario(index == 0);
-            break;
-        case 2:
-            unloadMe();
-            break;
-        case 3: {
-            session().setHourglass(true);
-            auto previous = session().gScenario;
-            session().gScenario = std::make_shared<clsScenario>(session());
-            session().gScenario->window = builderLink(host());
-            if (previous)
-                session().gScenario->notes = previous->notes;
-            session().gScenario->AddNew(QStringLiteral("Wildlife"));
-            // Without the builder open, show the new scenario in the list at once.
-            if (!QtWindowHost::isRegistered(QStringLiteral("frmZOB")) && !m_dcScenario->recordSource().isEmpty())
-                m_dcScenario->Refresh();
-            break;
-        }
-        case 4:
-            break;  // contaminant scenarios are not part of this program
-        case 5:
-            showCalculations();
-            break;
-        case 6:
-            OpenSelectedScenario();
-            break;
-        default:
-            break;
-        }
-    });
-    session().resetCursor();
+    const int row = m_dcScenario->currentRow();
+    if (row >= 0 && !m_dcScenario->value(row, QStringLiteral("Scenario_FileName")).isNull())
+        scenarioRowChosen();
+}
+
+void frmProject::scenarioDoubleClicked()
+{
+    if (m_dcScenario->rowCount() == 0) {
+        session().msgBox(QStringLiteral("Please select a scenario..."), QString(), MsgIcon::Information);
+        return;
+    }
+    guarded(session(), {ErrForm::Shared, QStringLiteral("ssGrdProjectScenarios_DblClick")}, [&] { OpenSelectedScenario(); });
+}
+
+void frmProject::newWildlifeScenario()
+{
+    session().setHourglass(true);
+    auto previous = session().gScenario;
+    session().gScenario = std::make_shared<clsScenario>(session());
+    session().gScenario->window = builderLink(host());
+    if (previous)
+        session().gScenario->notes = previous->notes;
+    session().gScenario->AddNew(QStringLiteral("Wildlife"));
+    // Without the builder open, show the new scenario in the list at once.
+    if (!QtWindowHost::isRegistered(QStringLiteral("frmZOB")) && !m_dcScenario->recordSource().isEmpty())
+        m_dcScenario->Refresh();
 }
 
 void frmProject::linkScenario(bool link)
@@ -489,7 +350,7 @@ void frmProject::OpenSelectedScenario()
         session().msgBox(QStringLiteral("Please select a scenario..."), QString(), MsgIcon::Information);
         return;
     }
-    Recordset &row = currentRecord(m_dcScenario);
+    Recordset &row = m_dcScenario->current();
     clsScenario &scenario = *session().gScenario;
     scenario.Clear();
     scenario.SID = row.field(QStringLiteral("ScenarioID")).toInt();
@@ -502,7 +363,7 @@ void frmProject::OpenSelectedScenario()
 
 void frmProject::openScenarioFile()
 {
-    Recordset &row = currentRecord(m_dcScenario);
+    Recordset &row = m_dcScenario->current();
     const qint32 id = row.field(QStringLiteral("ScenarioID")).toInt();
     const QString path = row.field(QStringLiteral("Scenario_FilePath")).toString();
     const QString file = row.field(QStringLiteral("Scenario_FileName")).toString();
@@ -525,11 +386,8 @@ void frmProject::showCalculations()
                          MsgIcon::Information);
         return;
     }
-    ZobWindow *w = host().form(kCalculations);
-    bool valid = false;
-    if (w)
-        QMetaObject::invokeMethod(w, "ZOBCalculationsValid", Qt::DirectConnection, Q_RETURN_ARG(bool, valid));
-    if (valid)
+    auto *review = host().link<CalculationReview>(kCalculations);
+    if (review && review->ZOBCalculationsValid())
         host().show(kCalculations, true);
 }
 

@@ -21,8 +21,6 @@ public:
     void Form_Activate() override;
     void Form_Unload(bool &cancel) override;
     QSize sizeHint() const override { return QWidget::sizeHint().expandedTo({820, 640}); }
-    //! F1 asks help at the number of the control that has the focus.
-    bool Form_KeyDown(int keyCode, int shift) override;
 
     //! Scenario file name pattern whose last three letters give the type of file to link.
     QString sFileName = QStringLiteral("*.ZOB");
@@ -41,8 +39,10 @@ public:
     void setScenarioSource(const QString &sql) override;
 
 private:
-    void TB_MDI_ButtonClick(const QString &key);
-    void cmdScenario_Click(int index);
+    void saveProject();
+    void newWildlifeScenario();
+    void scenarioRowMoved();
+    void scenarioDoubleClicked();
     void linkScenario(bool link);
     void OpenSelectedScenario();
     void showCalculations();
@@ -55,12 +55,10 @@ private:
     void offerFileAgain();
 
     DataControl *m_dcProject;
+    QComboBox *m_cboStateProvince = nullptr;
     DataControl *m_dcScenario;
-    DataControl *m_dcStateProvince;
     DataGrid *m_ssGrdProjectScenarios;
-    QComboBox *m_cboStateProvince;
     QPlainTextEdit *m_txtScenarioDescription;
     QWidget *m_txtProject[7] = {};
-    QPushButton *m_cmdScenario[7] = {};
     qint32 m_boundPid = -1;
 };

@@ -16,25 +16,6 @@
 
 namespace {
 const WindowRegistration<frmProjectList> reg(QStringLiteral("frmProjectList"));
-
-//! The current row of a data control's recordset; a list without rows has no current record.
-//! Columns as wide as their contents, but none wider than a third of the grid's default width.
-void fitColumns(DataGrid *grid)
-{
-    grid->resizeColumnsToContents();
-    const int widest = grid->fontMetrics().horizontalAdvance(QLatin1Char('M')) * 24;
-    for (int c = 0; c < grid->model()->columnCount(); ++c)
-        if (grid->columnWidth(c) > widest)
-            grid->setColumnWidth(c, widest);
-}
-
-Recordset &currentRecord(DataControl *dc)
-{
-    Recordset *rs = dc->recordset();
-    if (!rs || dc->currentRow() < 0)
-        throw VbError(VbErr::NoCurrentRecord, QStringLiteral("No current record."));
-    return *rs;
-}
 }  // namespace
 
 frmProjectList::frmProjectList(Session &session, QtWindowHost &host)
@@ -43,43 +24,41 @@ frmProjectList::frmProjectList(Session &session, QtWindowHost &host)
     setCaption(QStringLiteral("Projects"));
     HelpContextID = 3500;
     FormBuilder b(this);
-    ZobToolbar *tb = b.toolbar();
-    tb->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    tb->addSeparatorButton();
-    tb->addButton(QStringLiteral("New"), QStringLiteral("Make a new project"), QStringLiteral("New"));
-    tb->addSeparatorButton();
-    tb->addButton(QStringLiteral("Open"), QStringLiteral("Open the selected project"), QStringLiteral("Open"));
-    tb->addSeparatorButton();
-    tb->addButton(QStringLiteral("Close"), QStringLiteral("Close the project list"), QStringLiteral("Close"));
-    tb->addSeparatorButton();
-    tb->addButton(QStringLiteral("Help"), QStringLiteral("Help on the project list"), QStringLiteral("Help"));
-
+    buildToolbar(b, {
+        ToolButton::separator(),
+        {"New", "Make a new project", "New", [this] { this->session().gProject->AddNew(); }},
+        ToolButton::separator(),
+        {"Open", "Open the selected project", "Open", [this] { openSelected(); }},
+        ToolButton::separator(),
+        {"Close", "Close the project list", "Close", [this] { unloadMe(); }},
+        ToolButton::separator(),
+        {"Help", "Help on the project list", "Help", [this] { showHelp(); }},
+    });
     m_lblNoRecords = b.label(QStringLiteral("lblNoRecords"),
                              QStringLiteral("No projects: Click the new [blank page] icon to add a project."));
     m_lblNoRecords->setWordWrap(true);
     m_lblNoRecords->setVisible(false);
-    m_ssGrdMain = b.grid(QStringLiteral("ssGrdMain"));
-    m_dcMain = b.dataControl(QStringLiteral("dcMain"));
-    m_dcMain->setVisible(false);
-    m_ssGrdMain->setDataControl(m_dcMain);
+    m_dcMain = b.hiddenData(QStringLiteral("dcMain"));
+    m_ssGrdMain = b.grid(QStringLiteral("ssGrdMain"), m_dcMain,
+                         {{"ProjectID", {}, {}, true}, {"StateProvinceID", {}, {}, true}, {"Name", "Project Name"},
+                          {"Purpose", "Description"}, {"Path", "Folder"}, {"FileName", "File Name"}, {"LastSaved", "Last Saved"}});
     m_ssGrdMain->setToolTip(QStringLiteral("Double-click a project to open it; press Delete to delete it. "
                                            "Click a column head to sort."));
     resize(760, 420);
 
-    connect(tb, &ZobToolbar::ButtonClick, this, [this](int index, const QString &) { TB_MDI_ButtonClick(index); });
     connect(m_ssGrdMain, &DataGrid::HeadClick, this, [this](int column) {
         const QString field = m_dcMain->fields().value(column);
         if (!field.isEmpty())
             sortBy(field);
     });
-    connect(m_ssGrdMain, &DataGrid::DblClick, this, [this] { TB_MDI_ButtonClick(4); });
+    connect(m_ssGrdMain, &DataGrid::DblClick, this, [this] { toolbar()->click(QStringLiteral("Open")); });
     connect(ControlEvents::of(m_ssGrdMain), &ControlEvents::KeyDown, this, [this](int &keyCode, int) {
         if (keyCode == 46) {
             keyCode = 0;
             deleteSelected();
         } else if (keyCode == 13) {
             keyCode = 0;
-            TB_MDI_ButtonClick(4);
+            toolbar()->click(QStringLiteral("Open"));
         }
     });
     connect(m_dcMain, &DataControl::Reposition, this, &frmProjectList::dcMain_Reposition);
@@ -90,13 +69,6 @@ void frmProjectList::Form_Load()
     guarded(session(), {ErrForm::Qualified, QStringLiteral("frmProjectList.Form_Load")}, [&] {
         m_dcMain->setDatabase(session().gDB);
         sortBy(QStringLiteral("Name"));
-        m_ssGrdMain->setColumnHidden(QStringLiteral("ProjectID"), true);
-        m_ssGrdMain->setColumnHidden(QStringLiteral("StateProvinceID"), true);
-        m_ssGrdMain->setColumnCaption(QStringLiteral("Name"), QStringLiteral("Project Name"));
-        m_ssGrdMain->setColumnCaption(QStringLiteral("Purpose"), QStringLiteral("Description"));
-        m_ssGrdMain->setColumnCaption(QStringLiteral("Path"), QStringLiteral("Folder"));
-        m_ssGrdMain->setColumnCaption(QStringLiteral("FileName"), QStringLiteral("File Name"));
-        m_ssGrdMain->setColumnCaption(QStringLiteral("LastSaved"), QStringLiteral("Last Saved"));
     });
 }
 
@@ -118,7 +90,7 @@ void frmProjectList::sortBy(const QString &field)
         m_dcMain->setRecordSource(QStringLiteral("Select * from tblProject Order by ") + field);
         m_dcMain->Refresh();
         m_sortField = field;
-        fitColumns(m_ssGrdMain);
+        m_ssGrdMain->fitColumns(24);
     });
 }
 
@@ -130,31 +102,9 @@ void frmProjectList::dcMain_Reposition()
     });
 }
 
-void frmProjectList::TB_MDI_ButtonClick(int index)
-{
-    guarded(session(), {ErrForm::Shared, QStringLiteral("TB_MDI_ButtonClick")}, [&] {
-        switch (index) {
-        case 2:
-            session().gProject->AddNew();
-            break;
-        case 4:
-            openSelected();
-            break;
-        case 6:
-            unloadMe();
-            break;
-        case 8:
-            showHelp();
-            break;
-        default:
-            break;
-        }
-    });
-}
-
 void frmProjectList::openSelected()
 {
-    Recordset &rs = currentRecord(m_dcMain);
+    Recordset &rs = m_dcMain->current();
     clsProject &project = *session().gProject;
     project.PID = rs.field(QStringLiteral("ProjectID")).toInt();
     const QString path = rs.field(QStringLiteral("Path")).toString();
@@ -175,7 +125,7 @@ void frmProjectList::deleteSelected()
         != MsgAnswer::Yes)
         return;
     guarded(session(), {ErrForm::Qualified, QStringLiteral("frmZOB.ssGrdMain_KeyDown")}, [&] {
-        Recordset &rs = currentRecord(m_dcMain);
+        Recordset &rs = m_dcMain->current();
         const qint32 id = rs.field(QStringLiteral("ProjectID")).toInt();
         const QString marker = Session::join(rs.field(QStringLiteral("Path")).toString(),
                                              rs.field(QStringLiteral("FileName")).toString());

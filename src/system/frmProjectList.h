@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "WindowLinks.h"
 #include "ZobWindow.h"
 
 class DataControl;
@@ -9,7 +10,7 @@ class QLabel;
 
 //! The first window of a known user: every project, sortable by any column, with commands to make a
 //! new project, open the selected one and delete one with its marker file (the Delete key).
-class frmProjectList : public ZobWindow {
+class frmProjectList : public ZobWindow, public ListView {
     Q_OBJECT
 public:
     frmProjectList(Session &session, QtWindowHost &host);
@@ -20,11 +21,10 @@ public:
     QSize sizeHint() const override { return {760, 420}; }
 
     //! Reads the projects again in the current order.
-    void refreshList();
+    void refreshList() override;
 
 private:
     void sortBy(const QString &field);
-    void TB_MDI_ButtonClick(int index);
     void openSelected();
     void deleteSelected();
     void dcMain_Reposition();

@@ -14,24 +14,14 @@
 #include <QComboBox>
 #include <QDir>
 #include <QFileInfo>
-#include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QVBoxLayout>
 
 namespace {
 const WindowRegistration<frmSearch_File> reg(QStringLiteral("frmSearch_File"));
-
-QLabel *captionFor(QWidget *parent, const QString &name, const QString &text, QWidget *buddy)
-{
-    auto *l = new QLabel(text, parent);
-    l->setObjectName(name);
-    l->setBuddy(buddy);
-    return l;
-}
 }  // namespace
 
 frmSearch_File::frmSearch_File(Session &session, QtWindowHost &host)
@@ -42,78 +32,32 @@ frmSearch_File::frmSearch_File(Session &session, QtWindowHost &host)
     FormBuilder b(this);
 
     // Three columns as the classic chooser has them: file name and files, folders and drives, buttons.
-    auto *grid = new QWidget(this);
-    auto *g = new QGridLayout(grid);
-    g->setContentsMargins(0, 0, 0, 0);
-    b.add(grid, QStringLiteral("fraChooser"));
-
-    m_txtSelectedFile = new QLineEdit(grid);
-    m_txtSelectedFile->setObjectName(QStringLiteral("txtSelectedFile"));
+    FormBuilder chooser = b.row(1);
+    FormBuilder files = chooser.column(3);
+    m_txtSelectedFile = static_cast<QLineEdit *>(files.above(new QLineEdit(files.container()), QStringLiteral("txtSelectedFile"),
+                                                             QStringLiteral("lblFilename"), QStringLiteral("Filename:")));
     FormBuilder::userTyped(m_txtSelectedFile);
-    m_FileMain = new QListWidget(grid);
-    m_FileMain->setObjectName(QStringLiteral("FileMain"));
-    m_lstFileType = new QComboBox(grid);
-    m_lstFileType->setObjectName(QStringLiteral("lstFileType"));
-    m_lblFolder = new QLabel(grid);
-    m_lblFolder->setObjectName(QStringLiteral("lblFolder"));
+    m_FileMain = static_cast<QListWidget *>(files.above(new QListWidget(files.container()), QStringLiteral("FileMain"),
+                                                        QStringLiteral("lblExistingFiles"), QStringLiteral("Existing Files:"), 1));
+    m_lstFileType = static_cast<QComboBox *>(files.above(new QComboBox(files.container()), QStringLiteral("lstFileType"),
+                                                         QStringLiteral("lblFileType"), QStringLiteral("List files of type:")));
+    FormBuilder folders = chooser.column(3);
+    QLabel *lblDirectories = folders.label(QStringLiteral("lblDirectories"), QStringLiteral("Directories:"));
+    m_lblFolder = folders.label(QStringLiteral("lblFolder"), QString());
     m_lblFolder->setWordWrap(true);
     m_lblFolder->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    m_dirMain = new FolderList(grid);
-    m_dirMain->setObjectName(QStringLiteral("dirMain"));
-    m_drvMain = new DriveList(grid);
-    m_drvMain->setObjectName(QStringLiteral("drvMain"));
-
-    g->addWidget(captionFor(grid, QStringLiteral("lblFilename"), QStringLiteral("Filename:"), m_txtSelectedFile), 0, 0);
-    g->addWidget(m_txtSelectedFile, 1, 0);
-    g->addWidget(captionFor(grid, QStringLiteral("lblExistingFiles"), QStringLiteral("Existing Files:"), m_FileMain), 2, 0);
-    g->addWidget(m_FileMain, 3, 0);
-    g->addWidget(captionFor(grid, QStringLiteral("lblFileType"), QStringLiteral("List files of type:"), m_lstFileType), 4, 0);
-    g->addWidget(m_lstFileType, 5, 0);
-
-    g->addWidget(captionFor(grid, QStringLiteral("lblDirectories"), QStringLiteral("Directories:"), m_dirMain), 0, 1);
-    g->addWidget(m_lblFolder, 1, 1);
-    g->addWidget(m_dirMain, 2, 1, 2, 1);
-    g->addWidget(captionFor(grid, QStringLiteral("lblDrives"), QStringLiteral("Drive(s):"), m_drvMain), 4, 1);
-    g->addWidget(m_drvMain, 5, 1);
-
-    auto *buttons = new QWidget(grid);
-    FormBuilder bb(buttons);
-    bb.container()->layout()->setContentsMargins(0, 0, 0, 0);
-    QPushButton *ok = bb.button(QStringLiteral("cmdControl"), 0, QStringLiteral("&OK"));
-    QPushButton *close = bb.button(QStringLiteral("cmdControl"), 1, QStringLiteral("&Close"));
-    QPushButton *help = bb.button(QStringLiteral("cmdHelp"), QStringLiteral("&Help"));
-    bb.stretch();
+    m_dirMain = static_cast<FolderList *>(folders.add(new FolderList(folders.container()), QStringLiteral("dirMain")));
+    lblDirectories->setBuddy(m_dirMain);
+    m_drvMain = static_cast<DriveList *>(folders.above(new DriveList(folders.container()), QStringLiteral("drvMain"), QStringLiteral("lblDrives"),
+                                                       QStringLiteral("Drive(s):")));
+    FormBuilder buttons = chooser.column(0);
+    QPushButton *ok = buttons.button(QStringLiteral("cmdControl"), 0, QStringLiteral("&OK"));
+    QPushButton *close = buttons.button(QStringLiteral("cmdControl"), 1, QStringLiteral("&Close"));
+    QPushButton *help = buttons.button(QStringLiteral("cmdHelp"), QStringLiteral("&Help"));
+    buttons.stretch();
     ok->setDefault(true);
-    g->addWidget(buttons, 1, 2, 3, 1);
-    g->setColumnStretch(0, 3);
-    g->setColumnStretch(1, 3);
-    g->setRowStretch(3, 1);
-
-    // The description is read only: a sunken panel that keeps the marker file's lines as they were read.
-    m_txtInfo = new QLabel(this);
-    m_txtInfo->setTextFormat(Qt::PlainText);
-    m_txtInfo->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    m_txtInfo->setWordWrap(true);
-    m_txtInfo->setFrameShape(QFrame::StyledPanel);
-    m_txtInfo->setFrameShadow(QFrame::Sunken);
-    m_txtInfo->setAutoFillBackground(true);
-    m_txtInfo->setBackgroundRole(QPalette::Base);
-    m_txtInfo->setMargin(4);
-    m_txtInfo->setFocusPolicy(Qt::StrongFocus);
-    m_txtInfo->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    m_txtInfo->setMinimumHeight(m_txtInfo->fontMetrics().lineSpacing() * 4 + 12);
-    b.add(m_txtInfo, QStringLiteral("txtInfo"), QStringLiteral("File Description:"));
-    if (auto *lbl = findChild<QLabel *>(QStringLiteral("lbl_txtInfo")))
-        lbl->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-
-    setTabOrder(m_txtSelectedFile, m_FileMain);
-    setTabOrder(m_FileMain, m_lstFileType);
-    setTabOrder(m_lstFileType, m_dirMain);
-    setTabOrder(m_dirMain, m_drvMain);
-    setTabOrder(m_drvMain, ok);
-    setTabOrder(ok, close);
-    setTabOrder(close, help);
-    setTabOrder(help, m_txtInfo);
+    // The description is read only: a panel that keeps the marker file's lines as they were read.
+    m_txtInfo = b.panel(QStringLiteral("txtInfo"), QStringLiteral("File Description:"), 4);
     resize(640, 460);
 
     connect(ok, &QPushButton::clicked, this, [this] { cmdControl_Click(0); });

@@ -154,7 +154,7 @@ frmSetup::frmSetup(Session &session, QtWindowHost &host) : ZobWindow(session, ho
     m_ssGrdUser->setDataControl(m_dcUser);
     m_ssGrdReport->setDataControl(m_dcUser);
     for (int i = 0; i < 5; ++i)
-        m_dcUser->bindText(m_Path[i], QString::fromLatin1(kPaths[i].field));
+        m_dcUser->bind(m_Path[i], QString::fromLatin1(kPaths[i].field));
 
     // Table Setup: the list of tables, the boxes of one row, the rows, and the commands.
     FormBuilder tables = b.page(m_ssTabSetup, QStringLiteral("Table Setup"), QStringLiteral("tabTables"));
@@ -322,13 +322,13 @@ void frmSetup::cmdPath_Click(int index)
             if (dlg.exec() == QDialog::Accepted && !dlg.selectedFiles().isEmpty()) {
                 const QString chosen = dlg.selectedFiles().constFirst();
                 if (!chosen.isEmpty())
-                    m_Path[index]->setText(chosen.toUpper());
+                    m_Path[index]->setText(shownPath(chosen));
             }
             return;
         }
         session().gSelectedDir = m_Path[index]->text();
         host().show(QStringLiteral("frmGetDir"), true);
-        m_Path[index]->setText(session().gSelectedDir.toUpper());
+        m_Path[index]->setText(shownPath(session().gSelectedDir));
     });
 }
 

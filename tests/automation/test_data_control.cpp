@@ -74,7 +74,7 @@ TEST_F(DataControlTest, LongListsAreCountedByTheDatabaseAndReadAsShown)
     grid.resize(400, 300);
     grid.show();
     dc.Refresh();
-    grid.fitColumns();
+    grid.fitColumns();  // from the header and the rows in view
     EXPECT_EQ(dc.caption(), QStringLiteral("Record: 1 of 3000"));
     EXPECT_EQ(grid.recordsetModel()->rowCount(), 3000);
     EXPECT_LT(dc.recordset()->rowsRead(), 200);   // neither the count nor the column widths read every row
@@ -93,7 +93,7 @@ TEST_F(DataControlTest, LongListsAreCountedByTheDatabaseAndReadAsShown)
 TEST_F(DataControlTest, BoundBoxIsWrittenBackWhenTheRowIsLeft)
 {
     QLineEdit box;
-    dc.bindText(&box, QStringLiteral("Name"));
+    dc.bind(&box, QStringLiteral("Name"));
     dc.Refresh();
     EXPECT_EQ(box.text(), QStringLiteral("alpha"));
     const QVariant id = dc.value(0, QStringLiteral("ProjectID"));

@@ -2,11 +2,15 @@
 // The built default database: the fixed ids, the integrity of every reference between tables, the
 // diets and equations the calculations rest on, and a worked intake example for a bird and a mammal.
 // Reads the database with the SQLite C API, independently of the recordset layer.
+#include "DataFolder.h"
+
 #include <gtest/gtest.h>
 
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QProcess>
+#include <QSet>
 #include <QStringList>
 #include <QTemporaryDir>
 
@@ -309,7 +313,105 @@ TEST_F(SeedDb, DietsCanBeCopiedAndTheirProportionsSumToOne)
     EXPECT_EQ(QString::number(sums.size()), scalar(h(), "SELECT count(*) FROM tblDiet"))
         << "every diet needs a measure term";
     for (const Row &r : sums)
-        EXPECT_NEAR(r[2].toDouble(), 1.0, 0.005) << "diet " << r[0].toStdString() << " basis wet=" << r[1].toStdString();
+        EXPECT_NEAR(r[2].toDouble(), 1.0, 0.001) << "diet " << r[0].toStdString() << " basis wet=" << r[1].toStdString();
+}
+
+TEST_F(SeedDb, DietItemsRepeatTheValuesOfTheRowsTheyLink)
+{
+    // An item keeps the water content and trophic level of its linked rows, with their classes, so that
+    // the reference grid and a scenario's frozen copy show the same numbers; without a link it keeps none.
+    struct Copied {
+        const char *table, *key, *value, *valueClass, *itemValue, *itemClass;
+    };
+    const Copied copied[] = {
+        {"tblWaterConversion", "WaterConversionID", "Mean", "DataSourceID", "WaterPercent", "WaterPercentDS"},
+        {"tblTrophicLevel", "TrophicLevelID", "TrophicLevel", "DataSourceID", "TrophicLevel", "TrophiclevelDS"},
+    };
+    for (const Copied &c : copied) {
+        const auto differing = rows(h(), QStringLiteral(
+            "SELECT i.DietItemID, i.%5, i.%6 FROM tblDietItem i LEFT JOIN %1 v ON v.%2 = i.%2 "
+            "WHERE i.%5 IS NOT v.%3 OR i.%6 IS NOT v.%4")
+                                             .arg(c.table, c.key, c.value, c.valueClass, c.itemValue, c.itemClass));
+        for (const Row &r : differing)
+            ADD_FAILURE() << "item " << r[0].toStdString() << ": " << c.itemValue << " " << r[1].toStdString()
+                          << " (class " << r[2].toStdString() << ") differs from its " << c.table << " row";
+    }
+}
+
+TEST_F(SeedDb, CompiledAdditionsAreLoaded)
+{
+    // The diets of the reptiles, amphibians, kingfisher and gull, their items, the fruit efficiencies
+    // and their references, loaded with the ids they were compiled with.
+    struct Range {
+        const char *table, *key;
+        int first, last, count;
+    };
+    const Range ranges[] = {
+        {"tblDiet", "DietID", 2001, 2007, 7},         {"tblDiet", "DietID", 2101, 2103, 3},
+        {"tblDietItem", "DietItemID", 20001, 20022, 22}, {"tblDietItem", "DietItemID", 21001, 21013, 13},
+        {"tblAE", "AEID", 951, 953, 3},               {"tblReferences", "ReferenceID", 2001, 2004, 4},
+        {"tblReferences", "ReferenceID", 2101, 2105, 5},
+    };
+    for (const Range &r : ranges)
+        EXPECT_EQ(scalar(h(), QStringLiteral("SELECT count(*) FROM %1 WHERE %2 BETWEEN %3 AND %4")
+                                  .arg(QLatin1String(r.table), QLatin1String(r.key)).arg(r.first).arg(r.last)),
+                  QString::number(r.count)) << r.table << " " << r.first << "-" << r.last;
+    // Each new diet belongs to its species and holds its own items only.
+    EXPECT_EQ(scalar(h(), "SELECT group_concat(DietID || ':' || SpeciesID || ':' || n) FROM (SELECT d.DietID, d.SpeciesID, "
+                          "count(i.DietItemID) n FROM tblDiet d JOIN tblDietItem i ON i.DietID = d.DietID "
+                          "WHERE d.DietID > 2000 GROUP BY d.DietID ORDER BY d.DietID)"),
+              "2001:46:2,2002:47:2,2003:47:2,2004:45:3,2005:48:4,2006:49:6,2007:52:3,2101:11:4,2102:14:4,2103:14:5");
+    // The fruit items of the robin, tree swallow, song sparrow and the two mice use the new efficiencies;
+    // the bobwhite's fruit has none that fits a quail and keeps an empty link.
+    EXPECT_EQ(scalar(h(), "SELECT group_concat(DietItemID || ':' || COALESCE(AEID, '-')) FROM (SELECT * FROM tblDietItem "
+                          "WHERE DietItemID IN (1, 3, 52, 62, 73, 77) ORDER BY DietItemID)"),
+              "1:952,3:951,52:-,62:952,73:953,77:953");
+}
+
+TEST_F(SeedDb, CompleteEnergyChainsPerSpecies)
+{
+    // A food requirement needs, for every item of a diet, a gross energy on the diet's basis, an
+    // assimilation efficiency and a water content. Reports how many species have at least one diet
+    // where nothing is missing, and every item that still stops a chain. Missing values stay missing.
+    const QString items = QStringLiteral(
+        "SELECT d.SpeciesID, s.Common, d.DietID, i.DietItemID, i.Name, "
+        "(SELECT CASE WHEN m.WeightIsWet = 1 THEN g.WET_WT_KCALG ELSE g.DRY_WT_KCALG END FROM tblGrossEnergy g "
+        " WHERE g.GrossEnergyID = i.GrossEnergyID) AS GE, "
+        "(SELECT a.Mean FROM tblAE a WHERE a.AEID = i.AEID) AS AE, "
+        "(SELECT w.Mean FROM tblWaterConversion w WHERE w.WaterConversionID = i.WaterConversionID) AS Water, "
+        "CASE WHEN m.WeightIsWet = 1 THEN i.Wet_Proportion ELSE i.Dry_Proportion END AS Share "
+        "FROM tblDiet d JOIN tblSpecies s ON s.SpeciesID = d.SpeciesID "
+        "JOIN tblMeasureTerm m ON m.MeasureTermID = d.MeasureTermID JOIN tblDietItem i ON i.DietID = d.DietID");
+    const auto broken = rows(h(), "SELECT * FROM (" + items + ") WHERE GE IS NULL OR AE IS NULL OR Water IS NULL "
+                                                             "ORDER BY SpeciesID, DietID, DietItemID");
+    const auto complete = rows(h(), "SELECT DietID, SpeciesID, SUM(AE * 0.01 * GE * Share) FROM (" + items +
+                                        ") GROUP BY DietID HAVING count(*) = count(GE) AND count(*) = count(AE) "
+                                        "AND count(*) = count(Water)");
+    QSet<QString> species;
+    for (const Row &r : complete) {
+        species.insert(r[1]);
+        // An efficiency stored as a fraction instead of a percent, or an energy in kJ, would put the
+        // diet's metabolizable energy far outside what food holds per gram.
+        EXPECT_GT(r[2].toDouble(), 0.1) << "diet " << r[0].toStdString();
+        EXPECT_LT(r[2].toDouble(), 5.0) << "diet " << r[0].toStdString();
+    }
+    const QString total = scalar(h(), "SELECT count(*) FROM tblSpecies");
+    const QString withoutDiet = scalar(h(), "SELECT count(*) FROM tblSpecies WHERE SpeciesID NOT IN (SELECT SpeciesID "
+                                            "FROM tblDiet)");
+    std::printf("complete energy chain: %lld of %s species have a diet whose every item has gross energy, "
+                "assimilation efficiency and moisture (%s species have no diet)\n",
+                static_cast<long long>(species.size()), qPrintable(total), qPrintable(withoutDiet));
+    for (const Row &r : broken) {
+        QStringList missing;
+        const char *const values[] = {"gross energy", "assimilation efficiency", "moisture"};
+        for (int v = 0; v < 3; ++v)
+            if (r[5 + v] == QLatin1String("<null>"))
+                missing.append(QLatin1String(values[v]));
+        std::printf("  %s, diet %s, item %s \"%s\": no %s\n", qPrintable(r[1]), qPrintable(r[2]), qPrintable(r[3]),
+                    qPrintable(r[4]), qPrintable(missing.join(QStringLiteral(", "))));
+    }
+    // The figure only rises as values are added; a lost link would lower it.
+    EXPECT_GE(species.size(), 39);
 }
 
 TEST_F(SeedDb, AllometricEquationsGiveSensibleRates)
@@ -453,6 +555,47 @@ TEST(SeedTool, FailsWithAMessageAndLeavesNoFile)
     EXPECT_TRUE(errors.contains("tblGender.csv") && errors.contains("Colour")) << errors.toStdString();
     EXPECT_FALSE(QFile::exists(dir.filePath("out.sqlite")));
     EXPECT_NE(runSeedTool({dir.filePath("seed")}), 0);
+}
+TEST(SeedTool, ARebuildWithAChangedSeedLeavesTheUsersRowsInPlace)
+{
+    QTemporaryDir dir;
+    // The build writes the template; the first start copies it into the user's data folder.
+    const QString tmpl = dir.filePath("share/zobrel/ZOB.sqlite");
+    QDir().mkpath(dir.filePath("share/zobrel"));
+    ASSERT_EQ(runSeedTool({QStringLiteral(ZOB_SOURCE_DIR "/data/seed"), tmpl}), 0);
+    const QString home = dir.filePath("data/Zobrel");
+    const QString userDb = home + "/ZOB.sqlite";
+    ASSERT_EQ(DataFolder::prepare(home, "ZOB.sqlite", tmpl), DataFolder::Outcome::Created);
+    {
+        sqlite3 *raw = nullptr;
+        ASSERT_EQ(sqlite3_open_v2(userDb.toUtf8().constData(), &raw, SQLITE_OPEN_READWRITE, nullptr), SQLITE_OK);
+        const Db db(raw);
+        ASSERT_EQ(sqlite3_exec(db.get(), "INSERT INTO tblUser (User) VALUES ('ann');"
+                                         "INSERT INTO tblProject (Name) VALUES ('Heron Marsh')", nullptr, nullptr, nullptr),
+                  SQLITE_OK) << sqlite3_errmsg(db.get());
+    }
+
+    // A pull brings a changed seed file; the rebuild writes the template again.
+    const QString seed = dir.filePath("seed");
+    QDir().mkpath(seed);
+    QDirIterator it(QStringLiteral(ZOB_SOURCE_DIR "/data/seed"), {"*.csv"}, QDir::Files);
+    while (it.hasNext()) {
+        it.next();
+        ASSERT_TRUE(QFile::copy(it.filePath(), seed + "/" + it.fileName()));
+    }
+    QFile status(seed + "/tblStatus.csv");
+    ASSERT_TRUE(status.open(QIODevice::Append));
+    status.write("3,Released\n");
+    status.close();
+    ASSERT_EQ(runSeedTool({seed, tmpl}), 0);
+    EXPECT_EQ(scalar(openReadOnly(tmpl).get(), "SELECT Description FROM tblStatus WHERE StatusID = 3"), "Released");
+
+    // The next start finds the user's database and keeps it as it was.
+    EXPECT_EQ(DataFolder::prepare(home, "ZOB.sqlite", tmpl), DataFolder::Outcome::Existing);
+    const Db user = openReadOnly(userDb);
+    EXPECT_EQ(scalar(user.get(), "SELECT count(*) FROM tblUser WHERE User = 'ann'"), "1");
+    EXPECT_EQ(scalar(user.get(), "SELECT count(*) FROM tblProject WHERE Name = 'Heron Marsh'"), "1");
+    EXPECT_EQ(scalar(user.get(), "SELECT count(*) FROM tblStatus WHERE StatusID = 3"), "0");
 }
 
 TEST(ScaleTool, MakesEveryTableLargerWithValidLinksFromASeedNumber)

@@ -26,23 +26,6 @@ struct Tree {
 };
 }  // namespace
 
-TEST(ResolvePathCase, FindsTheSpellingOnDiskOfAnUpperCasePath)
-{
-    Tree t;
-    // The user row keeps its folders in capitals with a closing separator.
-    EXPECT_EQ(resolvePathCase(t.tmp.path() + QStringLiteral("/USERS/ANN/PROJECT/")), t.project);
-    EXPECT_EQ(resolvePathCase(t.tmp.path() + QStringLiteral("/users/ann/project/POND.nav")), t.project + QStringLiteral("/pond.NAV"));
-    EXPECT_EQ(resolvePathCase(t.project), t.project);
-}
-
-TEST(ResolvePathCase, LeavesAPathThatDoesNotExistAsGiven)
-{
-    Tree t;
-    const QString missing = t.tmp.path() + QStringLiteral("/USERS/BOB/PROJECT");
-    EXPECT_EQ(resolvePathCase(missing), missing);
-    EXPECT_EQ(resolvePathCase(QString()), QString());
-}
-
 TEST(FilesOf, MatchesThePatternWithoutRegardToCaseAndListsFilesOnly)
 {
     Tree t;

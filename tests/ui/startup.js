@@ -33,8 +33,8 @@ test('the new user has one tblUser row with the paths of his folders', () => {
     const u = rows[0];
     expect(u.UserID).toBe(session.userId);
     expect(u.User).toBe('tester');
-    // The database file is ZOB.sqlite; the row keeps its path in upper case.
-    expect(u.PathDatabase).toBe(session.home + sep + 'ZOB.SQLITE');
+    // The row names the database file as it is spelled on disk (this file system keeps case).
+    expect(u.PathDatabase).toBe(session.home + sep + 'ZOB.sqlite');
     expect(u.PathExport).toBe(session.home + sep + 'Export');
     expect(u.PathProject).toBe(base + sep + 'Project');
     expect(u.PathScenario).toBe(base + sep + 'Scenario');
@@ -125,6 +125,11 @@ test('About is modal over the main window, closes on Escape and is unloaded', ()
     ui.menu('mnuAboutTORM').trigger();
     expect(ui.window('frmSplash').visible).toBeTruthy();
     ui.window('frmSplash').click();
+    expect(ui.window('frmSplash')).toBeNull();
+    // The About box has an OK button that closes it.
+    ui.menu('mnuAboutTORM').trigger();
+    expect(ui.window('frmSplash').control('cmdOK').caption).toBe('OK');
+    ui.window('frmSplash').control('cmdOK').click();
     expect(ui.window('frmSplash')).toBeNull();
     // The GUI answers again: the modal loop has returned.
     expect(ui.window('frmMDI').caption).toContain('Zobrel');

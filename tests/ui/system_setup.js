@@ -34,7 +34,7 @@ test('the path boxes show the user\'s row', () => {
     expect(setup().control('Path(4)').text).toBe(u.PathReport);
 });
 
-test('the folder chooser opens at the box\'s folder and answers in capitals with a closing separator', () => {
+test('the folder chooser opens at the box\'s folder and answers with the folder as spelled on disk; Cancel changes nothing', () => {
     setup().control('ssTabSetup').selectTab(0);
     const before = setup().control('Path(2)').text;
     setup().control('cmdPath(2)').click();
@@ -46,11 +46,21 @@ test('the folder chooser opens at the box\'s folder and answers in capitals with
     expect(dir.control('dirMain').items).toContain('Scenario');
     dir.control('cmdControl(0)').click();
     expect(ui.window('frmGetDir')).toBeNull();
-    expect(setup().control('Path(2)').text).toBe((session.home + '/tester/').toUpperCase());
+    // This file system keeps case: the folder keeps its spelling and gets no closing separator.
+    expect(setup().control('Path(2)').text).toBe(session.home + '/tester');
+    expect(fs.exists(setup().control('Path(2)').text)).toBeTruthy();
 
+    // A folder typed in other capitals is answered as it is spelled on disk.
+    setup().control('cmdPath(4)').click();
+    ui.window('frmGetDir').control('txtDir').setText(session.home + '/TESTER/report/');
+    ui.window('frmGetDir').control('cmdControl(0)').click();
+    expect(setup().control('Path(4)').text).toBe(session.home + '/tester/Report');
+
+    const scenario = setup().control('Path(3)').text;
     setup().control('cmdPath(3)').click();
     ui.window('frmGetDir').control('cmdControl(1)').click();
-    expect(setup().control('Path(3)').text).toBe((session.home + '/tester/Scenario').toUpperCase());
+    expect(setup().control('Path(3)').text).toBe(scenario);
+    expect(scenario).toBe(session.home + '/tester/Scenario');
 });
 
 test('a comment with an apostrophe fails into an error box; a plain one is added to the grid', () => {

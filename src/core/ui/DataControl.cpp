@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "DataControl.h"
 
+#include "ControlValue.h"
+
 #include "Database.h"
 #include "Recordset.h"
 #include "Utilities.h"
@@ -11,12 +13,9 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
-#include <QLineEdit>
 #include <QMetaMethod>
 #include <QMouseEvent>
-#include <QPlainTextEdit>
 #include <QStyleOptionViewItem>
-#include <QTextEdit>
 #include <QToolButton>
 #include <cstdio>
 
@@ -169,6 +168,13 @@ void DataControl::moveTo(int row)
     arrive();
 }
 
+Recordset &DataControl::current() const
+{
+    if (!m_rs || currentRow() < 0)
+        throw VbError::noCurrentRecord();
+    return *m_rs;
+}
+
 void DataControl::arrive()
 {
     showRow();
@@ -187,8 +193,8 @@ void DataControl::showRow()
     for (Binding &b : m_bindings) {
         if (!b.widget)
             continue;
-        setWidgetValue(b.widget, row >= 0 ? value(row, b.field) : QVariant());
-        b.shown = widgetValue(b.widget);
+        ControlValue::setValue(b.widget, row >= 0 ? value(row, b.field) : QVariant());
+        b.shown = ControlValue::boundValue(b.widget);
     }
 }
 
@@ -209,17 +215,17 @@ void DataControl::leaveRow()
         return;
     QVector<Binding *> changed;
     for (Binding &b : m_bindings)
-        if (b.widget && !qobject_cast<QLabel *>(b.widget) && !sameValue(widgetValue(b.widget), b.shown))
+        if (b.widget && !b.readOnly && !sameValue(ControlValue::boundValue(b.widget), b.shown))
             changed.push_back(&b);
     if (changed.isEmpty())
         return;
     try {
         m_rs->Edit();
         for (Binding *b : changed)
-            m_rs->setField(b->field, widgetValue(b->widget));
+            m_rs->setField(b->field, ControlValue::boundValue(b->widget));
         m_rs->Update();
         for (Binding *b : changed)
-            b->shown = widgetValue(b->widget);
+            b->shown = ControlValue::boundValue(b->widget);
         refreshRow(row);
     } catch (const VbError &e) {
         if (m_rs->editMode() != Recordset::EditMode::None)
@@ -231,62 +237,9 @@ void DataControl::leaveRow()
     }
 }
 
-QVariant DataControl::widgetValue(const QWidget *w)
+void DataControl::bind(QWidget *control, const QString &field)
 {
-    QString text;
-    if (auto *e = qobject_cast<const QLineEdit *>(w))
-        text = e->text();
-    else if (auto *t = qobject_cast<const QTextEdit *>(w))
-        text = t->toPlainText();
-    else if (auto *p = qobject_cast<const QPlainTextEdit *>(w))
-        text = p->toPlainText();
-    else if (auto *l = qobject_cast<const QLabel *>(w))
-        text = l->text();
-    else if (auto *c = qobject_cast<const QComboBox *>(w)) {
-        if (c->currentIndex() >= 0) {
-            const QVariant data = c->currentData();
-            return data.isValid() ? data : QVariant(c->currentText());
-        }
-        text = c->isEditable() ? c->currentText() : QString();
-    }
-    return text.isEmpty() ? QVariant() : QVariant(text);
-}
-
-void DataControl::setWidgetValue(QWidget *w, const QVariant &v)
-{
-    QString text;
-    if (!v.isNull()) {
-        try {
-            text = vb::CStr(v);
-        } catch (const VbError &) {
-            text = v.toString();
-        }
-    }
-    if (auto *e = qobject_cast<QLineEdit *>(w))
-        e->setText(text);
-    else if (auto *t = qobject_cast<QTextEdit *>(w))
-        t->setPlainText(text);
-    else if (auto *p = qobject_cast<QPlainTextEdit *>(w))
-        p->setPlainText(text);
-    else if (auto *l = qobject_cast<QLabel *>(w))
-        l->setText(text);
-    else if (auto *c = qobject_cast<QComboBox *>(w))
-        selectComboValue(c, v);
-}
-
-void DataControl::bindText(QWidget *box, const QString &field)
-{
-    m_bindings.push_back({box, field, {}});
-}
-
-void DataControl::bindCombo(QComboBox *combo, const QString &field)
-{
-    m_bindings.push_back({combo, field, {}});
-}
-
-void DataControl::bindLabel(QLabel *label, const QString &field)
-{
-    m_bindings.push_back({label, field, {}});
+    m_bindings.push_back({control, field, ControlValue::kind(control) == QLatin1String("label"), {}});
 }
 
 void fillCombo(QComboBox *combo, Database &db, const QString &jetSql, const QString &listField,
@@ -464,22 +417,51 @@ void DataGrid::setColumnHidden(const QString &field, bool hidden)
     applyHidden();
 }
 
+void DataGrid::setColumns(const QList<GridColumn> &columns, bool onlyThese)
+{
+    m_onlyShown.clear();
+    for (const GridColumn &c : columns) {
+        const QString field = c.field.toLower();
+        if (!c.caption.isEmpty())
+            setColumnCaption(c.field, c.caption);
+        if (!c.pattern.isEmpty())
+            setColumnFormat(c.field, c.pattern);
+        m_hidden.removeAll(field);
+        if (c.hidden)
+            m_hidden.append(field);
+        else if (onlyThese)
+            m_onlyShown.append(field);
+        if (c.width > 0)
+            m_widths.insert(field, c.width);
+    }
+    applyHidden();
+}
+
+void DataGrid::fitColumns(int maxChars, int minChars)
+{
+    resizeColumnsToContents();
+    const int charWidth = fontMetrics().horizontalAdvance(QLatin1Char('M'));
+    for (int c = 0; c < model()->columnCount(); ++c) {
+        int width = std::max(columnWidth(c), minChars * charWidth);
+        if (maxChars > 0)
+            width = std::min(width, maxChars * charWidth);
+        setColumnWidth(c, width);
+    }
+}
+
 void DataGrid::applyHidden()
 {
     DataControl *d = dataControl();
     if (!d)
         return;
-    for (int c = 0; c < d->columnCount(); ++c)
-        QTableView::setColumnHidden(c, m_hidden.contains(d->fields()[c].toLower()));
-}
-
-void DataGrid::fitColumns()
-{
-    if (!m_model)
-        return;
-    for (int c = 0; c < m_model->columnCount(); ++c)
-        if (!isColumnHidden(c))
-            resizeColumnToContents(c);
+    const int charWidth = fontMetrics().horizontalAdvance(QLatin1Char('M'));
+    for (int c = 0; c < d->columnCount(); ++c) {
+        const QString field = d->fields()[c].toLower();
+        const bool shown = m_onlyShown.isEmpty() ? !m_hidden.contains(field) : m_onlyShown.contains(field);
+        QTableView::setColumnHidden(c, !shown);
+        if (const int width = m_widths.value(field); width > 0)
+            setColumnWidth(c, width * charWidth);
+    }
 }
 
 int DataGrid::sizeHintForColumn(int column) const

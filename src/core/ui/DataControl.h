@@ -39,6 +39,8 @@ public:
     void Refresh();
     //! The recordset, null before the first Refresh.
     Recordset *recordset() const { return m_rs.get(); }
+    //! The recordset on its current row; throws VbError 3021 "No current record." when there is none.
+    Recordset &current() const;
 
     // Navigation; each leaves the row (writing back) and signals Reposition.
     void MoveFirst();
@@ -67,14 +69,10 @@ public:
     QVariant value(int row, int column) const;
     QVariant value(int row, const QString &field) const { return value(row, fieldIndex(field)); }
 
-    //! Binds a text box (QLineEdit, QTextEdit, QPlainTextEdit) to a column; null shows as empty, and
-    //! an emptied box writes null.
-    void bindText(QWidget *box, const QString &field);
-    //! Binds a combo to a column: the item whose data equals the column's value is shown; the data
-    //! of the chosen item is written back (null for none).
-    void bindCombo(QComboBox *combo, const QString &field);
-    //! Binds a label (read-only display).
-    void bindLabel(QLabel *label, const QString &field);
+    //! Binds a control to a column. A box shows null as empty and writes null when emptied; a combo
+    //! shows the item whose data equals the value and writes the data of the chosen item (null for
+    //! none); a label only shows the value.
+    void bind(QWidget *control, const QString &field);
 
     //! The navigator's caption.
     QString caption() const;
@@ -95,13 +93,12 @@ private:
     struct Binding {
         QPointer<QWidget> widget;
         QString field;
+        bool readOnly;    // a label: shown, never written back
         QVariant shown;   // the value put into the box, to tell what the user changed
     };
     void leaveRow();
     void arrive();
     void showRow();
-    static QVariant widgetValue(const QWidget *w);
-    static void setWidgetValue(QWidget *w, const QVariant &v);
     void countRows();
 
     std::shared_ptr<Database> m_db;
@@ -151,6 +148,18 @@ private:
     std::function<RowStyle(int)> m_styler;
 };
 
+//! A grid column as a window declares it.
+struct GridColumn {
+    QString field;
+    //! The head's caption; empty keeps the field name.
+    QString caption;
+    //! A Format pattern for the cells; empty for none.
+    QString pattern;
+    bool hidden = false;
+    //! The width in average characters; 0 fits the contents.
+    int width = 0;
+};
+
 //! A grid bound to a data control (ssGrd...). Selecting a row moves the data control, and a move of the
 //! data control selects the row. Head click, row change, double click and key down are signals.
 class DataGrid : public QTableView {
@@ -165,10 +174,15 @@ public:
     void setColumnCaption(const QString &field, const QString &caption);
     void setColumnFormat(const QString &field, const QString &pattern);
     void setColumnHidden(const QString &field, bool hidden);
+    //! Declares columns by field, after setDataControl. With onlyThese, the columns of the record source that are not
+    //! listed are hidden. Each setting survives a Refresh.
+    void setColumns(const QList<GridColumn> &columns, bool onlyThese = false);
     //! The hidden columns by field name survive a Refresh.
     bool isFieldHidden(const QString &field) const { return m_hidden.contains(field.toLower()); }
-    //! Fits every shown column to its header and to the rows in view (never to all rows).
-    void fitColumns();
+
+    //! Fits each column to its contents and caption, within minChars and maxChars average characters
+    //! (0: no limit).
+    void fitColumns(int maxChars = 0, int minChars = 0);
 
     //! The captions of the shown columns, in order, and the texts of a row's shown cells.
     QStringList columnCaptions() const;
@@ -198,6 +212,8 @@ private:
     void applyHidden();
     RecordsetModel *m_model = nullptr;
     QStringList m_hidden;
+    QStringList m_onlyShown;        // when set, the only fields shown
+    QHash<QString, int> m_widths;   // field -> width in characters
     bool m_syncing = false;
     int m_lastRow = -1;
 };

@@ -2,6 +2,7 @@
 #include "QtWindowHost.h"
 
 #include "Session.h"
+#include "WindowGeometry.h"
 #include "ZobWindow.h"
 
 #include <QEventLoop>
@@ -111,6 +112,7 @@ void QtWindowHost::show(const QString &name, bool modal)
         }
         w->setParent(m_main, Qt::Dialog);
         w->setWindowModality(Qt::ApplicationModal);
+        WindowGeometry::fitScreen(w);
         w->show();
         w->raise();
         w->activateWindow();
@@ -139,6 +141,7 @@ void QtWindowHost::show(const QString &name, bool modal)
         }
         sub->show();
         w->show();
+        WindowGeometry::fitInside(sub, m_mdi->viewport());
         m_mdi->setActiveSubWindow(sub);
         w->Form_Activate();
         return;

@@ -54,6 +54,13 @@ public:
     W *form(const QString &name) { return qobject_cast<W *>(form(name)); }
     //! The window if it is loaded, without making it.
     ZobWindow *loaded(const QString &name) const;
+    //! A window's typed link (an interface of WindowLinks.h), made and loaded at the first reference;
+    //! null when there is no such window or it does not offer that link.
+    template <typename Link>
+    Link *link(const QString &name) { return dynamic_cast<Link *>(form(name)); }
+    //! The same for a window that is loaded already; null otherwise.
+    template <typename Link>
+    Link *loadedLink(const QString &name) const { return dynamic_cast<Link *>(loaded(name)); }
     //! Loads without showing (legacy Load).
     bool load(const QString &name) { return form(name) != nullptr; }
     //! Hides a window; a modal showing of it ends.

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Utilities.h"
 
+#include "ControlValue.h"
+
 #include "DataControl.h"
 #include "Diagnostics.h"
 #include "Recordset.h"
@@ -8,15 +10,10 @@
 #include "VbError.h"
 
 #include <QAbstractButton>
-#include <QComboBox>
-#include <QFrame>
 #include <QGroupBox>
 #include <QHash>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QLineEdit>
-#include <QPlainTextEdit>
-#include <QTextEdit>
 
 QColor legacyColor(qint32 bgr)
 {
@@ -42,10 +39,10 @@ void setForeColor(QWidget *widget, const QColor &color)
 
 QColor foreColor(const QWidget *widget)
 {
-    if (qobject_cast<const QLineEdit *>(widget) || qobject_cast<const QComboBox *>(widget)
-        || qobject_cast<const QTextEdit *>(widget) || qobject_cast<const QPlainTextEdit *>(widget))
+    const QString kind = ControlValue::kind(widget);
+    if (kind == QLatin1String("text") || kind == QLatin1String("combo"))
         return widget->palette().color(QPalette::Text);
-    if (qobject_cast<const QAbstractButton *>(widget))
+    if (kind == QLatin1String("button") || kind == QLatin1String("check") || kind == QLatin1String("option"))
         return widget->palette().color(QPalette::ButtonText);
     return widget->palette().color(QPalette::WindowText);
 }
@@ -70,27 +67,6 @@ const QHash<int, int> &vbToQt()
     return map;
 }
 
-//! Swallows the input that would change a locked combo.
-class LockFilter : public QObject {
-public:
-    bool eventFilter(QObject *watched, QEvent *event) override
-    {
-        if (!watched->property("locked").toBool())
-            return false;
-        switch (event->type()) {
-        case QEvent::MouseButtonPress:
-        case QEvent::MouseButtonDblClick:
-        case QEvent::Wheel:
-            return true;
-        case QEvent::KeyPress: {
-            const int key = static_cast<QKeyEvent *>(event)->key();
-            return key != Qt::Key_Tab && key != Qt::Key_Backtab;
-        }
-        default:
-            return false;
-        }
-    }
-};
 }  // namespace
 
 int vbKeyFromQt(int qtKey)
@@ -107,36 +83,12 @@ int qtKeyFromVb(int vbKey)
 
 void setLocked(QWidget *control, bool locked)
 {
-    if (auto *edit = qobject_cast<QLineEdit *>(control)) {
-        edit->setReadOnly(locked);
-        edit->setFrame(!locked);
-    } else if (auto *text = qobject_cast<QTextEdit *>(control)) {
-        text->setReadOnly(locked);
-        text->setFrameShape(locked ? QFrame::NoFrame : QFrame::StyledPanel);
-    } else if (auto *plain = qobject_cast<QPlainTextEdit *>(control)) {
-        plain->setReadOnly(locked);
-        plain->setFrameShape(locked ? QFrame::NoFrame : QFrame::StyledPanel);
-    } else if (auto *combo = qobject_cast<QComboBox *>(control)) {
-        static LockFilter filter;
-        combo->removeEventFilter(&filter);
-        combo->installEventFilter(&filter);
-        if (combo->lineEdit())
-            combo->lineEdit()->setReadOnly(locked);
-        combo->setFrame(!locked);
-    }
-    if (control)
-        control->setProperty("locked", locked);
+    ControlValue::setLocked(control, locked);
 }
 
 bool isLocked(const QWidget *control)
 {
-    if (auto *edit = qobject_cast<const QLineEdit *>(control))
-        return edit->isReadOnly();
-    if (auto *text = qobject_cast<const QTextEdit *>(control))
-        return text->isReadOnly();
-    if (auto *plain = qobject_cast<const QPlainTextEdit *>(control))
-        return plain->isReadOnly();
-    return control && control->property("locked").toBool();
+    return ControlValue::locked(control);
 }
 
 void SetRecordPosition(DataControl &dc)
@@ -189,12 +141,8 @@ void SetControlInfo(Session &s, QWidget *window, const QString &verb, bool flag)
                 continue;  // frames accept "frames" and everything else alike: nothing happens
             } else if (prefix == QLatin1String("txt")) {
                 if (verb == QLatin1String("clear")) {
-                    if (auto *e = qobject_cast<QLineEdit *>(c))
-                        e->clear();
-                    else if (auto *t = qobject_cast<QTextEdit *>(c))
-                        t->clear();
-                    else if (auto *p = qobject_cast<QPlainTextEdit *>(c))
-                        p->clear();
+                    if (ControlValue::kind(c) == QLatin1String("text"))
+                        ControlValue::clear(c);
                 } else if (verb == QLatin1String("lock")) {
                     setLocked(c, flag);
                 } else if (verb == QLatin1String("enable")) {
@@ -202,11 +150,8 @@ void SetControlInfo(Session &s, QWidget *window, const QString &verb, bool flag)
                 }
             } else if (prefix == QLatin1String("cbo")) {
                 if (verb == QLatin1String("clear")) {
-                    if (auto *cb = qobject_cast<QComboBox *>(c)) {
-                        cb->setCurrentIndex(-1);
-                        if (cb->isEditable())
-                            cb->setEditText(QString());
-                    }
+                    if (ControlValue::kind(c) == QLatin1String("combo"))
+                        ControlValue::clear(c);
                 } else if (verb == QLatin1String("lock")) {
                     setLocked(c, flag);
                 } else if (verb == QLatin1String("enabled")) {

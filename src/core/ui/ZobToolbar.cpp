@@ -35,6 +35,7 @@ ZobToolbar::ZobToolbar(QWidget *parent) : QToolBar(parent)
     setObjectName(QStringLiteral("TB_MDI"));
     setMovable(false);
     setIconSize(QSize(20, 20));
+    setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
 }
 
 int ZobToolbar::addButton(const QString &key, const QString &toolTip, const QString &caption)
@@ -52,6 +53,25 @@ int ZobToolbar::addSeparatorButton()
 {
     m_buttons.push_back(addSeparator());
     return static_cast<int>(m_buttons.size());
+}
+
+void ZobToolbar::define(const QList<ToolButton> &places,
+                        const std::function<void(const std::function<void()> &)> &wrap)
+{
+    for (const ToolButton &place : places) {
+        if (place.kind != ToolButton::Kind::Button) {
+            button(addSeparatorButton())->setVisible(place.kind == ToolButton::Kind::Separator);
+            continue;
+        }
+        QAction *action = button(addButton(place.key, place.tip, place.caption));
+        if (!place.handler)
+            continue;
+        auto handler = place.handler;
+        if (wrap)
+            connect(action, &QAction::triggered, this, [wrap, handler] { wrap(handler); });
+        else
+            connect(action, &QAction::triggered, this, [handler] { handler(); });
+    }
 }
 
 QAction *ZobToolbar::button(int index) const

@@ -1,10 +1,27 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QList>
 #include <QToolBar>
 #include <QVector>
+#include <functional>
 
 class QAction;
+
+//! One place on a toolbar, as a table row: a button with its key, tip, caption and handler, or a
+//! separator. Separators count in the index like buttons; a spare separator keeps its index but is
+//! not drawn (for windows whose button numbers have gaps).
+struct ToolButton {
+    enum class Kind { Button, Separator, Spare };
+    QString key;
+    QString tip;
+    QString caption;
+    std::function<void()> handler;
+    Kind kind = Kind::Button;
+
+    static ToolButton separator() { return {{}, {}, {}, {}, Kind::Separator}; }
+    static ToolButton spare() { return {{}, {}, {}, {}, Kind::Spare}; }
+};
 
 //! The toolbar of a window (TB_MDI). Its buttons are numbered from 1 in the order added, separators
 //! included, and carry a key; both address a button.
@@ -17,6 +34,10 @@ public:
     int addButton(const QString &key, const QString &toolTip, const QString &caption = {});
     //! Adds a separator, which takes an index like a button.
     int addSeparatorButton();
+    //! Adds the places of a table in order. Each button's handler runs when it is pressed, passed
+    //! through wrap when one is given (a window's error handler).
+    void define(const QList<ToolButton> &places,
+                const std::function<void(const std::function<void()> &)> &wrap = {});
 
     int buttonCount() const { return static_cast<int>(m_buttons.size()); }
     //! The action of button index (1-based), or of a key; null if none.

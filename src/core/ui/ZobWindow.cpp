@@ -2,13 +2,18 @@
 #include "ZobWindow.h"
 
 #include "ControlEvents.h"
+#include "Diagnostics.h"
+#include "FormBuilder.h"
 #include "QtWindowHost.h"
 #include "Session.h"
 #include "Utilities.h"
 #include "ZobToolbar.h"
 
+#include <QAction>
 #include <QCloseEvent>
 #include <QKeyEvent>
+#include <QPushButton>
+#include <QTabWidget>
 
 ZobWindow::ZobWindow(Session &session, QtWindowHost &host, const QString &name, QWidget *parent)
     : QWidget(parent), m_session(session), m_host(host)
@@ -19,12 +24,45 @@ ZobWindow::ZobWindow(Session &session, QtWindowHost &host, const QString &name, 
 
 ZobWindow::~ZobWindow() = default;
 
-void ZobWindow::PuS_SetRecord(qint32 recordId, const QString &keyField, const QString &table, const QString &mode)
+ZobToolbar *ZobWindow::buildToolbar(FormBuilder &builder, const QList<ToolButton> &places, const QString &routine)
 {
-    Q_UNUSED(recordId);
-    Q_UNUSED(keyField);
-    Q_UNUSED(table);
-    Q_UNUSED(mode);
+    ZobToolbar *tb = builder.toolbar();
+    tb->define(places, [this, routine](const std::function<void()> &handler) { runCommand(routine, handler); });
+    return tb;
+}
+
+QList<QPushButton *> ZobWindow::commandButtons(FormBuilder &builder, const QString &name,
+                                               const QList<CommandButton> &buttons)
+{
+    QList<QPushButton *> made;
+    const QString routine = name + QStringLiteral("_Click");
+    for (const CommandButton &b : buttons) {
+        QPushButton *button = builder.button(name, b.index, b.caption);
+        if (b.handler)
+            connect(button, &QPushButton::clicked, this, [this, routine, handler = b.handler] { runCommand(routine, handler); });
+        made << button;
+    }
+    return made;
+}
+
+void ZobWindow::runCommand(const QString &routine, const std::function<void()> &body)
+{
+    guarded(m_session, {ErrForm::Shared, routine}, body);
+    m_session.resetCursor();
+}
+
+void ZobWindow::setHelpContext(QWidget *control, int topic)
+{
+    m_helpTopics.append({control, topic});
+}
+
+int ZobWindow::helpContext(const QWidget *control) const
+{
+    for (const QWidget *w = control; w && w != this; w = w->parentWidget())
+        for (const auto &[widget, topic] : m_helpTopics)
+            if (widget == w)
+                return topic;
+    return HelpContextID;
 }
 
 ZobToolbar *ZobWindow::toolbar() const
@@ -76,7 +114,7 @@ bool ZobWindow::eventFilter(QObject *watched, QEvent *e)
         const int code = vbKeyFromQt(ke->key());
         if (code != 0) {
             m_previewed = e;
-            if (Form_KeyDown(code, vbShiftState(ke->modifiers())))
+            if (keyDown(code, vbShiftState(ke->modifiers())))
                 return true;
         }
     }
@@ -89,11 +127,79 @@ void ZobWindow::keyPressEvent(QKeyEvent *event)
     const bool seen = event == m_previewed;
     m_previewed = nullptr;
     const int code = vbKeyFromQt(event->key());
-    if (!seen && code != 0 && Form_KeyDown(code, vbShiftState(event->modifiers()))) {
+    if (!seen && code != 0 && keyDown(code, vbShiftState(event->modifiers()))) {
         event->accept();
         return;
     }
+    // Enter and Escape that no control took press the window's default and cancel buttons, as in
+    // a dialog box.
+    if (event->modifiers() == Qt::NoModifier || event->modifiers() == Qt::KeypadModifier) {
+        const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+        if ((enter || event->key() == Qt::Key_Escape) && pressDialogButton(enter)) {
+            event->accept();
+            return;
+        }
+    }
     QWidget::keyPressEvent(event);
+}
+
+bool ZobWindow::pressDialogButton(bool accept)
+{
+    const auto buttons = findChildren<QPushButton *>();
+    for (QPushButton *b : buttons) {
+        if (!b->isVisibleTo(this) || !b->isEnabled())
+            continue;
+        const QString caption = b->text().remove(QLatin1Char('&')).trimmed();
+        const bool cancel = caption.compare(QLatin1String("Cancel"), Qt::CaseInsensitive) == 0
+                            || caption.compare(QLatin1String("Close"), Qt::CaseInsensitive) == 0;
+        if (accept ? b->isDefault() : cancel) {
+            b->click();
+            return true;
+        }
+    }
+    if (accept)
+        return false;
+    ZobToolbar *tb = toolbar();
+    for (const char *key : {"Close", "Cancel"}) {
+        QAction *a = tb ? tb->button(QString::fromLatin1(key)) : nullptr;
+        if (a && a->isVisible() && a->isEnabled()) {
+            a->trigger();
+            return true;
+        }
+    }
+    return false;
+}
+
+bool ZobWindow::turnPage(int code, int shift)
+{
+    // Ctrl+Tab and Ctrl+PgDn go to the next page of the tab strip around the focus (or the
+    // window's first), Ctrl+Shift+Tab and Ctrl+PgUp to the one before.
+    if (!(shift & 2) || (code != 9 && code != 33 && code != 34))
+        return false;
+    QTabWidget *tabs = nullptr;
+    for (QWidget *w = focusWidget(); w && w != this && !tabs; w = w->parentWidget())
+        tabs = qobject_cast<QTabWidget *>(w);
+    if (!tabs)
+        tabs = findChild<QTabWidget *>();
+    if (!tabs || tabs->count() == 0)
+        return false;
+    const bool back = code == 33 || (code == 9 && (shift & 1));
+    tabs->setCurrentIndex((tabs->currentIndex() + (back ? tabs->count() - 1 : 1)) % tabs->count());
+    return true;
+}
+
+bool ZobWindow::keyDown(int code, int shift)
+{
+    if (Form_KeyDown(code, shift))
+        return true;
+    if (turnPage(code, shift))
+        return true;
+    // F1 shows the help of the control that has the focus, as every window of the program does.
+    if (code == 112 && m_session.help) {
+        m_session.help->showTopic(helpContext(focusWidget()));
+        return true;
+    }
+    return false;
 }
 
 bool ZobWindow::event(QEvent *e)

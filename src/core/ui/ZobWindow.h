@@ -1,11 +1,44 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QWidget>
+#include "ZobToolbar.h"
 
+#include <QList>
+#include <QPair>
+#include <QPointer>
+#include <QWidget>
+#include <functional>
+
+class FormBuilder;
+class QPushButton;
 class QtWindowHost;
 class Session;
-class ZobToolbar;
+
+//! What one window passes another that it opens for a record (pickers and entry windows): the record
+//! and where it lives, the mode, the record to show first, and how the window was reached.
+//! One button of a control array of command buttons, as a table row: its index in the array, its
+//! caption and what it does.
+struct CommandButton {
+    int index;
+    QString caption;
+    std::function<void()> handler;
+};
+
+struct RecordRequest {
+    qint32 recordId = 0;
+    QString keyField;
+    QString table;
+    //! "Write", "Read" or "ReadOnly".
+    QString mode;
+    //! The record shown first (0: none).
+    qint32 selectedId = 0;
+    //! Narrow the list by the classification of the record being assigned.
+    bool filter = false;
+    //! A pick for the caller (true), or browse-and-edit from the menu (false).
+    bool isSelection = true;
+    //! How the window was reached: "Menu", or empty for a caller's command.
+    QString entry;
+};
 
 //! The common base of the program's windows. The window host creates one instance per class, runs
 //! Form_Load once, shows it in the main window's MDI area (or as a box over it) and runs Form_Unload
@@ -27,8 +60,10 @@ public:
     virtual bool Form_KeyDown(int keyCode, int shift) { Q_UNUSED(keyCode); Q_UNUSED(shift); return false; }
     //! Child of the main window's MDI area (true) or a box of its own (false).
     virtual bool isMdiChild() const { return true; }
-    //! Opens the window for one record: the record id, key field, table and mode ("Write", "Read", "ReadOnly").
-    virtual void PuS_SetRecord(qint32 recordId, const QString &keyField, const QString &table, const QString &mode);
+    //! Opens the window for one record (legacy PuS_SetRecord). The base keeps the request.
+    virtual void setRecord(const RecordRequest &request) { m_request = request; }
+    //! The last request given to setRecord.
+    const RecordRequest &recordRequest() const { return m_request; }
 
     //! The window's help number.
     int HelpContextID = 0;
@@ -48,6 +83,10 @@ public:
     void unloadMe();
     //! Shows the help topic of this window.
     void showHelp();
+    //! Gives a control (and everything in it) a help topic of its own for F1.
+    void setHelpContext(QWidget *control, int topic);
+    //! The help topic for a control: its own, its nearest container's, or the window's.
+    int helpContext(const QWidget *control) const;
 
     Session &session() const { return m_session; }
     QtWindowHost &host() const { return m_host; }
@@ -65,6 +104,16 @@ signals:
     void hidden();
 
 protected:
+    //! The window's toolbar, from a table: each handler runs under the window's error handler as
+    //! routine (the legacy "TB_MDI_ButtonClick"), and the busy cursor is reset after it.
+    ZobToolbar *buildToolbar(FormBuilder &builder, const QList<ToolButton> &places,
+                             const QString &routine = QStringLiteral("TB_MDI_ButtonClick"));
+    //! The buttons name(index) of a control array, made in the order of the table; each handler runs
+    //! under the window's error handler as routine (the legacy "<name>_Click").
+    QList<QPushButton *> commandButtons(FormBuilder &builder, const QString &name, const QList<CommandButton> &buttons);
+    //! Runs body under the window's error handler as routine, then resets the busy cursor.
+    void runCommand(const QString &routine, const std::function<void()> &body);
+
     void closeEvent(QCloseEvent *event) override;
     void hideEvent(QHideEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
@@ -74,6 +123,12 @@ protected:
 private:
     Session &m_session;
     QtWindowHost &m_host;
+    bool keyDown(int code, int shift);
+    bool pressDialogButton(bool accept);
+    bool turnPage(int code, int shift);
+
     bool m_unloading = false;
     const QEvent *m_previewed = nullptr;
+    RecordRequest m_request;
+    QList<QPair<QPointer<QWidget>, int>> m_helpTopics;
 };

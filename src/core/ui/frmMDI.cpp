@@ -2,9 +2,11 @@
 #include "frmMDI.h"
 
 #include "Diagnostics.h"
+#include "MenuTable.h"
 #include "QtWindowHost.h"
 #include "Session.h"
 #include "Utilities.h"
+#include "WindowGeometry.h"
 #include "ZobWindow.h"
 #include "clsProject.h"
 #include "clsScenario.h"
@@ -14,6 +16,7 @@
 #include <QCoreApplication>
 #include <QMdiArea>
 #include <QMenuBar>
+#include <QShortcut>
 
 frmMDI::frmMDI(Session &session, QtWindowHost &host, QWidget *parent)
     : QMainWindow(parent), m_session(session), m_host(host), m_mdi(new QMdiArea(this))
@@ -21,24 +24,17 @@ frmMDI::frmMDI(Session &session, QtWindowHost &host, QWidget *parent)
     setObjectName(QStringLiteral("frmMDI"));
     m_mdi->setObjectName(QStringLiteral("mdiArea"));
     setCentralWidget(m_mdi);
-    resize(1024, 720);
     m_host.setMdiArea(m_mdi);
     m_host.setMainWindow(this);
     buildMenu();
     connect(&m_host, &QtWindowHost::windowLoaded, this, &frmMDI::updateProjectItems);
     connect(&m_host, &QtWindowHost::windowUnloaded, this, &frmMDI::updateProjectItems);
+    WindowGeometry::manageMainWindow(this, QSize(1024, 720));
 }
 
 QString frmMDI::captionText()
 {
     return QStringLiteral("Zobrel (Version: %1)").arg(QCoreApplication::applicationVersion());
-}
-
-QAction *frmMDI::item(QMenu *menu, const QString &name, const QString &caption)
-{
-    QAction *a = menu->addAction(caption);
-    a->setObjectName(name);
-    return a;
 }
 
 QAction *frmMDI::menuItem(const QString &name) const
@@ -57,126 +53,104 @@ void frmMDI::addLoadHook(LoadHook hook)
     loadHooks().append(std::move(hook));
 }
 
-void frmMDI::requireWindow(QAction *item, const QString &window)
-{
-    if (QtWindowHost::isRegistered(window))
-        return;
-    item->setEnabled(false);
-    item->setToolTip(QStringLiteral("This window (%1) is not available yet in this version of the program.").arg(window));
-}
-
 void frmMDI::buildMenu()
 {
     auto show = [this](const QString &name, bool modal = false) { return [this, name, modal] { m_host.show(name, modal); }; };
-
-    QMenu *file = menuBar()->addMenu(QStringLiteral("&File"));
-    file->setObjectName(QStringLiteral("mnuFile"));
-    file->setToolTipsVisible(true);
-    QAction *setup = item(file, QStringLiteral("mnuIniSetup"), QStringLiteral("&Setup..."));
-    connect(setup, &QAction::triggered, this, show(QStringLiteral("frmSetup")));
-    requireWindow(setup, QStringLiteral("frmSetup"));
-    file->addSeparator()->setObjectName(QStringLiteral("mnuBar10"));
-    // Exit ends the process at once: no window is asked anything.
-    connect(item(file, QStringLiteral("mnuExit"), QStringLiteral("E&xit")), &QAction::triggered, this,
-            [] { QCoreApplication::exit(0); });
-
-    QMenu *project = menuBar()->addMenu(QStringLiteral("Project"));
-    project->setObjectName(QStringLiteral("mnuProjectMenu"));
-    project->setToolTipsVisible(true);
-    QAction *title = project->menuAction();
-    title->setObjectName(QStringLiteral("mnuProject"));
-    connect(project, &QMenu::aboutToShow, this, show(QStringLiteral("frmProjectList")));
-    connect(title, &QAction::triggered, this, show(QStringLiteral("frmProjectList")));
-    connect(item(project, arrayName(QStringLiteral("mnuProjectOptions"), 0), QStringLiteral("New...")),
-            &QAction::triggered, this, [this] {
-                guarded(m_session, {ErrForm::Shared, QStringLiteral("mnuProjectOptions_Click")}, [&] { m_session.gProject->AddNew(); });
-            });
-    connect(item(project, arrayName(QStringLiteral("mnuProjectOptions"), 1), QStringLiteral("Open...")),
-            &QAction::triggered, this, [this] {
-                guarded(m_session, {ErrForm::Shared, QStringLiteral("mnuProjectOptions_Click")}, [&] {
-                    m_session.gProject->Clear();
-                    m_session.gProject->OpenFile();
-                });
-            });
-    connect(item(project, arrayName(QStringLiteral("mnuProjectOptions"), 2), QStringLiteral("Close")),
-            &QAction::triggered, this, [] { QCoreApplication::exit(0); });
-    project->addSeparator()->setObjectName(arrayName(QStringLiteral("mnuProjectOptions"), 3));
-    connect(item(project, arrayName(QStringLiteral("mnuProjectOptions"), 4), QStringLiteral("&Save")),
-            &QAction::triggered, this, [this] {
-                guarded(m_session, {ErrForm::Shared, QStringLiteral("mnuProjectOptions_Click")}, [&] {
-                    // A new project whose file name was not given before is asked for one again.
-                    if (m_session.gProject->Mode == QLatin1String("Add") && m_session.gProject->FileName.isEmpty())
-                        m_session.gProject->FileName = QStringLiteral("*.NAV");
-                    m_session.gProject->Save();
-                    m_session.gProject->SetCmd(true);
-                });
-            });
-    item(project, arrayName(QStringLiteral("mnuProjectOptions"), 5), QStringLiteral("Save &As..."));  // no action
-
-    QMenu *entry = menuBar()->addMenu(QStringLiteral("&Data Entry"));
-    entry->setObjectName(QStringLiteral("mnuDataEntry"));
-    entry->setToolTipsVisible(true);
-    QAction *references = item(entry, QStringLiteral("mnuReferences"), QStringLiteral("References"));
-    connect(references, &QAction::triggered, this, show(QStringLiteral("frmSelect_Reference")));
-    requireWindow(references, QStringLiteral("frmSelect_Reference"));
-    QAction *wildlife = item(entry, QStringLiteral("mnuWldDE"), QStringLiteral("Wildlife Data Entry"));
-    requireWindow(wildlife, QStringLiteral("frmSelect_Species"));
-    connect(wildlife, &QAction::triggered, this,
-            [this] {
-                if (ZobWindow *w = m_host.form(QStringLiteral("frmSelect_Species"))) {
-                    w->setProperty("Entry", QStringLiteral("Menu"));
-                    w->PuS_SetRecord(0, QStringLiteral("ScenarioID"), QStringLiteral("tblWildlife"), QStringLiteral("Write"));
-                }
-                m_host.show(QStringLiteral("frmSelect_Species"));
-            });
-    entry->addSeparator()->setObjectName(QStringLiteral("mnuBar111"));
-    QMenu *generic = entry->addMenu(QStringLiteral("Generic Data Entry"));
-    generic->menuAction()->setObjectName(QStringLiteral("mnuWLDGenericData"));
-    generic->setToolTipsVisible(true);
-    const struct { const char *name, *caption, *window, *key, *table; } pickers[] = {
-        {"mnuIntakeModel", "Allometric Equations", "frmSelect_IntakeModel", "IntakeModelID", "tblIntakeModel"},
-        {"mnuAE", "Assimilation Efficiency", "frmSelect_AE", "AEID", "tblAE"},
-        {"mnuGE", "Gross Energy", "frmSelect_GE", "GrossEnergyID", "tblGrossEnergy"},
-        {"mnuWaterConversion", "Moisture", "frmSelect_WaterConversion", "WaterConversionID", "tblWaterConversion"},
-        {"mnuSoilIngestion", "Soil Ingestion", "frmSelect_SoilIngestion", "SoilIngestionID", "tblSoilIngestion"},
-        {"mnuTrophicLevel", "Trophic Level", "frmSelect_TrophicLevel", "TrophicLevelID", "tblTrophicLevel"},
+    auto projectCommand = [this](std::function<void(clsProject &)> body) {
+        return [this, body] {
+            guarded(m_session, {ErrForm::Shared, QStringLiteral("mnuProjectOptions_Click")}, [&] { body(*m_session.gProject); });
+        };
     };
-    for (const auto &p : pickers) {
-        const QString window = QString::fromLatin1(p.window), key = QString::fromLatin1(p.key),
-                      table = QString::fromLatin1(p.table);
-        QAction *a = item(generic, QString::fromLatin1(p.name), QString::fromLatin1(p.caption));
-        connect(a, &QAction::triggered, this, [this, window, key, table] { openPicker(window, key, table); });
-        requireWindow(a, window);
-    }
-    QAction *lifeHistory = item(entry, QStringLiteral("mnuLifeStage"), QStringLiteral("Life History"));
-    requireWindow(lifeHistory, QStringLiteral("frmSearch_LifeHistory"));
-    connect(lifeHistory, &QAction::triggered, this,
-            [this] {
-                if (ZobWindow *w = m_host.form(QStringLiteral("frmSearch_LifeHistory")))
-                    w->PuS_SetRecord(0, QStringLiteral("NA"), QStringLiteral("NA"), QString());
-                m_host.show(QStringLiteral("frmSearch_LifeHistory"));
-            });
+    auto options = [](int i) { return arrayName(QStringLiteral("mnuProjectOptions"), i); };
+    // Exit and Close end the process at once: no window is asked anything.
+    auto exit = [] { QCoreApplication::exit(0); };
 
-    QMenu *help = menuBar()->addMenu(QStringLiteral("&Help"));
-    help->setObjectName(QStringLiteral("mnuHelp"));
-    connect(item(help, QStringLiteral("mnuContents"), QStringLiteral("&Contents")), &QAction::triggered, this, [this] {
-        if (m_session.help)
-            m_session.help->showTopic(1501);
+    addMenu(menuBar(), QStringLiteral("mnuFile"), QStringLiteral("&File"), {
+        {QStringLiteral("mnuIniSetup"), QStringLiteral("&Setup..."), show(QStringLiteral("frmSetup")), QStringLiteral("frmSetup")},
+        MenuEntry::separatorNamed(QStringLiteral("mnuBar10")),
+        {QStringLiteral("mnuExit"), QStringLiteral("E&xit"), exit},
     });
-    help->addSeparator()->setObjectName(QStringLiteral("mnuSep3"));
-    connect(item(help, QStringLiteral("mnuAboutTORM"), QStringLiteral("&About ...")), &QAction::triggered, this,
-            show(QStringLiteral("frmSplash"), true));
+    QMenu *project = addMenu(menuBar(), QStringLiteral("mnuProjectMenu"), QStringLiteral("Project"), {
+        {options(0), QStringLiteral("New..."), projectCommand([](clsProject &p) { p.AddNew(); })},
+        {options(1), QStringLiteral("Open..."), projectCommand([](clsProject &p) { p.Clear(); p.OpenFile(); })},
+        {options(2), QStringLiteral("Close"), exit},
+        MenuEntry::separatorNamed(options(3)),
+        {options(4), QStringLiteral("&Save"), projectCommand([](clsProject &p) {
+             // A new project whose file name was not given before is asked for one again.
+             if (p.Mode == QLatin1String("Add") && p.FileName.isEmpty())
+                 p.FileName = QStringLiteral("*.NAV");
+             p.Save();
+             p.SetCmd(true);
+         })},
+        {options(5), QStringLiteral("Save &As...")},  // no action
+    }, QStringLiteral("mnuProject"));
+    connect(project, &QMenu::aboutToShow, this, show(QStringLiteral("frmProjectList")));
+    connect(project->menuAction(), &QAction::triggered, this, show(QStringLiteral("frmProjectList")));
+    // The title keeps its caption without a mnemonic; Alt+P opens it all the same.
+    connect(new QShortcut(QKeySequence(Qt::ALT | Qt::Key_P), this), &QShortcut::activated, this,
+            [this, project] { menuBar()->setActiveAction(project->menuAction()); });
 
+    auto picker = [this](const char *name, const char *caption, const char *window, const char *key, const char *table) {
+        const QString w = QString::fromLatin1(window), k = QString::fromLatin1(key), t = QString::fromLatin1(table);
+        return MenuEntry{QString::fromLatin1(name), QString::fromLatin1(caption), [this, w, k, t] { openPicker(w, k, t); }, w};
+    };
+    addMenu(menuBar(), QStringLiteral("mnuDataEntry"), QStringLiteral("&Data Entry"), {
+        {QStringLiteral("mnuReferences"), QStringLiteral("References"), show(QStringLiteral("frmSelect_Reference")),
+         QStringLiteral("frmSelect_Reference")},
+        {QStringLiteral("mnuWldDE"), QStringLiteral("Wildlife Data Entry"), [this] { openWildlifeEntry(); },
+         QStringLiteral("frmSelect_Species")},
+        MenuEntry::separatorNamed(QStringLiteral("mnuBar111")),
+        {QStringLiteral("mnuWLDGenericData"), QStringLiteral("Generic Data Entry"), {}, {}, {
+            picker("mnuIntakeModel", "Allometric Equations", "frmSelect_IntakeModel", "IntakeModelID", "tblIntakeModel"),
+            picker("mnuAE", "Assimilation Efficiency", "frmSelect_AE", "AEID", "tblAE"),
+            picker("mnuGE", "Gross Energy", "frmSelect_GE", "GrossEnergyID", "tblGrossEnergy"),
+            picker("mnuWaterConversion", "Moisture", "frmSelect_WaterConversion", "WaterConversionID", "tblWaterConversion"),
+            picker("mnuSoilIngestion", "Soil Ingestion", "frmSelect_SoilIngestion", "SoilIngestionID", "tblSoilIngestion"),
+            picker("mnuTrophicLevel", "Trophic Level", "frmSelect_TrophicLevel", "TrophicLevelID", "tblTrophicLevel"),
+        }},
+        {QStringLiteral("mnuLifeStage"), QStringLiteral("Life History"), [this] { openLifeHistory(); },
+         QStringLiteral("frmSearch_LifeHistory")},
+    });
+    addMenu(menuBar(), QStringLiteral("mnuHelp"), QStringLiteral("&Help"), {
+        {QStringLiteral("mnuContents"), QStringLiteral("&Contents"), [this] { if (m_session.help) m_session.help->showTopic(1501); }},
+        MenuEntry::separatorNamed(QStringLiteral("mnuSep3")),
+        {QStringLiteral("mnuAboutTORM"), QStringLiteral("&About ..."), show(QStringLiteral("frmSplash"), true)},
+    });
     updateProjectItems();
+}
+
+void frmMDI::openWildlifeEntry()
+{
+    RecordRequest request;
+    request.keyField = QStringLiteral("ScenarioID");
+    request.table = QStringLiteral("tblWildlife");
+    request.mode = QStringLiteral("Write");
+    request.entry = QStringLiteral("Menu");
+    if (ZobWindow *w = m_host.form(QStringLiteral("frmSelect_Species")))
+        w->setRecord(request);
+    m_host.show(QStringLiteral("frmSelect_Species"));
+}
+
+void frmMDI::openLifeHistory()
+{
+    RecordRequest request;
+    request.keyField = QStringLiteral("NA");
+    request.table = QStringLiteral("NA");
+    if (ZobWindow *w = m_host.form(QStringLiteral("frmSearch_LifeHistory")))
+        w->setRecord(request);
+    m_host.show(QStringLiteral("frmSearch_LifeHistory"));
 }
 
 void frmMDI::openPicker(const QString &window, const QString &keyField, const QString &table)
 {
     // Browse-and-edit use of a picker: not a selection, record 0, mode "Write".
-    if (ZobWindow *w = m_host.form(window)) {
-        w->setProperty("IsSelection", false);
-        w->PuS_SetRecord(0, keyField, table, QStringLiteral("Write"));
-    }
+    RecordRequest request;
+    request.keyField = keyField;
+    request.table = table;
+    request.mode = QStringLiteral("Write");
+    request.isSelection = false;
+    if (ZobWindow *w = m_host.form(window))
+        w->setRecord(request);
     m_host.show(window);
 }
 

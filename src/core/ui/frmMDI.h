@@ -40,10 +40,9 @@ private:
     void buildMenu();
     void updateProjectItems();
     void openPicker(const QString &window, const QString &keyField, const QString &table);
-    //! Disables an item whose window is not part of this program yet, and says so in its tool tip.
-    void requireWindow(QAction *item, const QString &window);
+    void openWildlifeEntry();
+    void openLifeHistory();
     static QVector<LoadHook> &loadHooks();
-    QAction *item(QMenu *menu, const QString &name, const QString &caption);
 
     Session &m_session;
     QtWindowHost &m_host;

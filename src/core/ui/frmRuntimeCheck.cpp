@@ -35,7 +35,7 @@ frmRuntimeCheck::frmRuntimeCheck(Session &session, QtWindowHost &host)
     QPushButton *ask = buttons.button(QStringLiteral("cmdCheck"), 1, QStringLiteral("&Ask"));
     m_lblResult = b.label(QStringLiteral("lblResult"), QString());
 
-    m_dcMain->bindText(m_txtDescription, QStringLiteral("Description"));
+    m_dcMain->bind(m_txtDescription, QStringLiteral("Description"));
     m_ssGrdMain->setDataControl(m_dcMain);
 
     connect(open, &QPushButton::clicked, this, [this] {

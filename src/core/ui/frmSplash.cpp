@@ -12,6 +12,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
+#include <QPushButton>
 #include <QVBoxLayout>
 
 frmSplash::frmSplash(Session &session, QtWindowHost &host)
@@ -37,6 +38,11 @@ frmSplash::frmSplash(Session &session, QtWindowHost &host)
     text->addWidget(m_lblProduct);
     text->addWidget(m_lblProductName);
     text->addStretch(1);
+    auto *ok = new QPushButton(QStringLiteral("OK"), this);
+    ok->setObjectName(QStringLiteral("cmdOK"));
+    ok->setDefault(true);
+    connect(ok, &QPushButton::clicked, this, &ZobWindow::unloadMe);
+    text->addWidget(ok, 0, Qt::AlignRight);
     auto *layout = new QHBoxLayout(this);
     layout->addWidget(m_imgSplash);
     layout->addLayout(text);
