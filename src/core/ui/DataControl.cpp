@@ -15,6 +15,7 @@
 #include <QLabel>
 #include <QMetaMethod>
 #include <QMouseEvent>
+#include <QStandardItemModel>
 #include <QStyleOptionViewItem>
 #include <QToolButton>
 #include <cstdio>
@@ -242,17 +243,61 @@ void DataControl::bind(QWidget *control, const QString &field)
     m_bindings.push_back({control, field, ControlValue::kind(control) == QLatin1String("label"), {}});
 }
 
+namespace {
+//! The items of a combo filled from a statement, read from its recordset a batch at a time as the
+//! list is scrolled (or a value is looked for), so that a list of thousands opens at the cost of one
+//! batch. Items can still be added by hand after the fill.
+class RecordsetComboModel : public QStandardItemModel {
+public:
+    RecordsetComboModel(std::unique_ptr<Recordset> rs, int listColumn, int boundColumn, QObject *parent)
+        : QStandardItemModel(0, 1, parent), m_rs(std::move(rs)), m_list(listColumn), m_bound(boundColumn)
+    {
+        fetchMore({});
+    }
+    bool canFetchMore(const QModelIndex &parent) const override
+    {
+        return !parent.isValid() && m_rs && m_rs->fetchTo(m_next);
+    }
+    void fetchMore(const QModelIndex &parent) override
+    {
+        if (parent.isValid() || !m_rs)
+            return;
+        constexpr int batch = 256;
+        QList<QStandardItem *> items;
+        for (; items.size() < batch && m_rs->fetchTo(m_next); ++m_next) {
+            const QVariant shown = m_rs->valueAt(m_next, m_list);
+            auto *item = new QStandardItem(shown.isNull() ? QString() : shown.toString());
+            item->setData(m_rs->valueAt(m_next, m_bound), Qt::UserRole);
+            items << item;
+        }
+        if (!items.isEmpty())
+            invisibleRootItem()->appendRows(items);
+        if (!m_rs->fetchTo(m_next))
+            m_rs.reset();   // every row is an item: the statement is done with
+    }
+
+private:
+    std::unique_ptr<Recordset> m_rs;
+    int m_list;
+    int m_bound;
+    int m_next = 0;
+};
+}  // namespace
+
 void fillCombo(QComboBox *combo, Database &db, const QString &jetSql, const QString &listField,
                const QString &boundColumn)
 {
     auto rs = db.OpenRecordset(jetSql, RecordsetType::Snapshot);
+    const QStringList fields = rs->fieldNames();
+    auto column = [&](const QString &name) {
+        for (int i = 0; i < fields.size(); ++i)
+            if (fields[i].compare(name, Qt::CaseInsensitive) == 0)
+                return i;
+        throw VbError(VbErr::ItemNotFound, QStringLiteral("Item not found in this collection. (%1)").arg(name));
+    };
+    const int list = column(listField), bound = column(boundColumn);
     const QSignalBlocker block(combo);
-    combo->clear();
-    while (!rs->EOF_()) {
-        const QVariant shown = rs->field(listField);
-        combo->addItem(shown.isNull() ? QString() : shown.toString(), rs->field(boundColumn));
-        rs->MoveNext();
-    }
+    combo->setModel(new RecordsetComboModel(std::move(rs), list, bound, combo));
     combo->setCurrentIndex(-1);
 }
 
@@ -261,7 +306,11 @@ void selectComboValue(QComboBox *combo, const QVariant &value)
     int found = -1;
     if (!value.isNull()) {
         const QString wanted = value.toString();
-        for (int i = 0; i < combo->count() && found < 0; ++i) {
+        QAbstractItemModel *model = combo->model();
+        for (int i = 0; found < 0; ++i) {
+            // Items not read yet are read until the value turns up.
+            if (i >= combo->count() && !(model->canFetchMore({}) && (model->fetchMore({}), i < combo->count())))
+                break;
             const QVariant data = combo->itemData(i);
             const QString have = data.isValid() ? data.toString() : combo->itemText(i);
             if (have.compare(wanted, Qt::CaseInsensitive) == 0)

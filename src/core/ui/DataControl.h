@@ -111,10 +111,12 @@ private:
     QToolButton *m_first, *m_prev, *m_next, *m_last;
 };
 
-//! Fills a combo from a statement: the shown column becomes the text, the bound column the data.
+//! Fills a combo from a statement: the shown column becomes the text, the bound column the data. The
+//! items are read a batch at a time as the list is scrolled or a value is looked for.
 void fillCombo(QComboBox *combo, Database &db, const QString &jetSql, const QString &listField,
                const QString &boundColumn);
-//! Shows the item whose data equals value (text compare without case); -1 and an empty box for none.
+//! Shows the item whose data equals value (text compare without case), reading items not read yet;
+//! -1 and an empty box for none.
 void selectComboValue(QComboBox *combo, const QVariant &value);
 
 //! Colours of a grid row.
