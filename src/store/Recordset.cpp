@@ -204,6 +204,48 @@ bool hasReadOnlyShape(const QString &sql)
     return depth == 0 && !word.isEmpty() && check(word);
 }
 
+//! Where a statement's closing ORDER BY starts (outside parentheses and strings, with no LIMIT after
+//! it), or -1.
+qsizetype closingOrderBy(const QString &sql)
+{
+    int depth = 0;
+    QChar quote;
+    qsizetype wordStart = -1, orderAt = -1, lastOrder = -1;
+    const qsizetype n = sql.size();
+    for (qsizetype i = 0; i <= n; ++i) {
+        const QChar c = i < n ? sql[i] : QChar(QLatin1Char(' '));
+        if (!quote.isNull()) {
+            if (c == quote)
+                quote = QChar();
+            continue;
+        }
+        if (c.isLetterOrNumber() || c == QLatin1Char('_')) {
+            if (wordStart < 0)
+                wordStart = i;
+            continue;
+        }
+        if (wordStart >= 0 && depth == 0) {
+            const QStringView word = QStringView(sql).mid(wordStart, i - wordStart);
+            if (word.compare(QLatin1String("ORDER"), Qt::CaseInsensitive) == 0)
+                orderAt = wordStart;
+            else if (word.compare(QLatin1String("BY"), Qt::CaseInsensitive) == 0 && orderAt >= 0)
+                lastOrder = orderAt;
+            else if (word.compare(QLatin1String("LIMIT"), Qt::CaseInsensitive) == 0)
+                return -1;
+            if (word.compare(QLatin1String("ORDER"), Qt::CaseInsensitive) != 0)
+                orderAt = -1;
+        }
+        wordStart = -1;
+        if (c == QLatin1Char('\'') || c == QLatin1Char('"') || c == QLatin1Char('['))
+            quote = c == QLatin1Char('[') ? QLatin1Char(']') : c;
+        else if (c == QLatin1Char('('))
+            ++depth;
+        else if (c == QLatin1Char(')'))
+            --depth;
+    }
+    return lastOrder;
+}
+
 //! What a statement's result looks like: its columns and, when every column comes from one table
 //! and the statement is a plain single-table one, that table (the rows can then be written back).
 RecordsetShape shapeOf(sqlite3_stmt *stmt, const QString &sql)
@@ -392,6 +434,9 @@ int Recordset::countRows()
     QString body = m_sql.trimmed();
     while (body.endsWith(QLatin1Char(';')))
         body.chop(1);
+    // The order of the rows does not change their number: a closing ORDER BY is not run again.
+    if (const qsizetype orderBy = closingOrderBy(body); orderBy > 0)
+        body.truncate(orderBy);
     Statement st;
     if (st.prepare(m_db, QStringLiteral("SELECT count(*) FROM (%1)").arg(body).toUtf8()) != SQLITE_OK)
         m_db->raiseLastError(m_sourceSql);

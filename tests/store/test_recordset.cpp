@@ -210,6 +210,7 @@ TEST_F(RecordsetTest, RowsAreReadAsTheyAreReachedAndCountedWithoutReading)
     EXPECT_FALSE(rs->complete());
     EXPECT_EQ(rs->countRows(), 167);
     EXPECT_EQ(rs->rowsRead(), 1);
+    EXPECT_EQ(db->OpenRecordset(QStringLiteral("Select Top 5 * From tblThing Order By Name Desc"))->countRows(), 5);
     rs->setAbsolutePosition(9);
     EXPECT_EQ(rs->rowsRead(), 10);
     EXPECT_EQ(rs->RecordCount(), 10);
