@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "ScriptRunner.h"
 
+#include "GlobalApis.h"
+#include "ObjectBridge.h"
 #include "QtWindowHost.h"
-#include "ScriptApi.h"
+#include "ScriptBindings.h"
 #include "ScriptMessageService.h"
 #include "Session.h"
+#include "UiApi.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -16,15 +19,6 @@
 #include <cstdlib>
 #include <mutex>
 #include <thread>
-
-#if defined(ZOB_HAVE_CALC) && __has_include("CalcScriptApi.h")
-#include "CalcScriptApi.h"
-#define ZOB_EXPOSE_CALC 1
-#endif
-#if defined(ZOB_HAVE_CALC) && __has_include("DietScriptApi.h")
-#include "DietScriptApi.h"
-#define ZOB_EXPOSE_DIET 1
-#endif
 
 static void initAutomationResources()
 {
@@ -97,12 +91,8 @@ void ScriptRunner::exposeObject(const QString &name, QObject *object)
 
 void ScriptRunner::exposeProgramObjects()
 {
-#ifdef ZOB_EXPOSE_CALC
-    exposeObject(QStringLiteral("calc"), new CalcScriptApi(m_session, this));
-#endif
-#ifdef ZOB_EXPOSE_DIET
-    exposeObject(QStringLiteral("diet"), new DietScriptApi(m_session, this));
-#endif
+    for (const ScriptBindings::Binding &b : ScriptBindings::all())
+        exposeObject(b.name, b.make(m_session, this));
 }
 
 void ScriptRunner::start(const QString &path, bool quitAfter, int timeoutSeconds)

@@ -27,7 +27,7 @@ public:
     //! Makes every public invokable method of a GUI-thread object callable from scripts as
     //! name.method(...). Call before start().
     void exposeObject(const QString &name, QObject *object);
-    //! Exposes the program's calculation objects ("calc", "diet") where this build has them.
+    //! Exposes the objects the program's layers registered for scripts (ScriptBindingRegistration).
     void exposeProgramObjects();
 
     //! Starts the script. With quitAfter the program ends when the script ends, with the status 0

@@ -3,6 +3,7 @@
 
 #include "Calculations.h"
 #include "Intake.h"
+#include "ScriptBindings.h"
 #include "ScriptSupport.h"
 #include "Session.h"
 #include "Wildlife.h"
@@ -15,6 +16,9 @@ using scriptapi::toId;
 namespace {
 //! The result of a routine whose error reached the script.
 constexpr double kNoNumber = std::numeric_limits<double>::quiet_NaN();
+
+const ScriptBindingRegistration reg(QStringLiteral("calc"),
+                                    [](Session &s, QObject *parent) { return new CalcScriptApi(s, parent); });
 }
 
 CalcScriptApi::CalcScriptApi(Session &session, QObject *parent) : QObject(parent), m_session(session) {}

@@ -2,11 +2,17 @@
 #include "DietScriptApi.h"
 
 #include "Diet.h"
+#include "ScriptBindings.h"
 #include "ScriptSupport.h"
 #include "Session.h"
 
 using scriptapi::guardedCall;
 using scriptapi::toId;
+
+namespace {
+const ScriptBindingRegistration reg(QStringLiteral("diet"),
+                                    [](Session &s, QObject *parent) { return new DietScriptApi(s, parent); });
+}
 
 DietScriptApi::DietScriptApi(Session &session, QObject *parent) : QObject(parent), m_session(session) {}
 

@@ -3,6 +3,7 @@
 
 #include "Diagnostics.h"
 #include "PathSpelling.h"
+#include "Schema.h"
 #include "VbError.h"
 
 #include <QDir>
@@ -38,7 +39,15 @@ void Session::openDatabase()
     gPathDatabase = join(home, databaseFileName());
     gConnectionString = QStringLiteral("Provider=Microsoft.Jet.OLEDB.4.0;Data Source=") + gPathDatabase
                         + QStringLiteral(";Persist Security Info=False");
-    gDB = Database::open(gPathDatabase);
+    auto db = Database::open(gPathDatabase);
+    // A file without the program's tables (an empty file, another program's database) is refused
+    // as a damaged one, before anything is written to it.
+    for (const QString &table : schemaTables())
+        if (!db->hasTable(table))
+            throw VbError(VbErr::NotDatabaseFormat, QStringLiteral("Unrecognized database format '%1'.").arg(gPathDatabase));
+    // Several programs may share the file: where the file system allows, they read while one writes.
+    db->shareWithOtherPrograms();
+    gDB = std::move(db);
 }
 
 bool Session::Main()

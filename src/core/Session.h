@@ -58,7 +58,7 @@ public:
 
     // --- start-up ---
     //! Sets the paths from the program folder and opens gDB. Throws VbError when the database
-    //! cannot be opened (missing or damaged file).
+    //! cannot be opened (missing or damaged file, or a file without the program's tables: 3343).
     void openDatabase();
     //! Steps 2 to 4 of the start: paths, database, the diet-item object. Reports a failure in the
     //! shared form as "AppInit" and returns false; the caller then ends the process.

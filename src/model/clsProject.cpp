@@ -3,9 +3,12 @@
 
 #include "Database.h"
 #include "Session.h"
+#include "VbError.h"
 #include "VbFormat.h"
 
 #include <QDate>
+#include <QFile>
+#include <QScopeGuard>
 
 clsProject::clsProject(Session &session) : m_session(session)
 {
@@ -104,9 +107,15 @@ void clsProject::Save()
                          MsgIcon::Warning);
         return;
     }
-    // The further connection only proves that the database can be opened.
-    auto db = Database::open(m_session.gPathDatabase);
+    // The save goes to the file gPathDatabase names: through the program's own connection while that
+    // is the file it opened, through a further one once the setup window has pointed elsewhere.
+    const std::shared_ptr<Database> db = m_session.gDB && m_session.gDB->path() == m_session.gPathDatabase
+                                             ? m_session.gDB
+                                             : Database::open(m_session.gPathDatabase);
     SetValues();
+    const qint32 oldPID = PID;
+    const QString oldFileName = FileName;
+    const QString oldFilePath = FilePath;
     if (FileName == QLatin1String("*.NAV") && m_session.fileChooser) {
         // The action carries a trailing blank, as the chooser has always been asked.
         const FileChoice c = m_session.fileChooser->choose(QStringLiteral("NAV"), QStringLiteral("Save "));
@@ -129,6 +138,18 @@ void clsProject::Save()
         rs.setField(QStringLiteral("Path"), FilePath);
         rs.setField(QStringLiteral("FileName"), FileName);
     };
+    // The row and the marker file are saved together: the row's transaction is committed only once
+    // the marker file is written, and a failure on the way rolls the row back to what it was and
+    // leaves the project as it was before the save.
+    Database::Transaction transaction(*db);
+    bool saved = false;
+    const auto keepAsBefore = qScopeGuard([&] {
+        if (saved)
+            return;
+        PID = oldPID;
+        FileName = oldFileName;
+        FilePath = oldFilePath;
+    });
     if (Mode == QLatin1String("Add")) {
         auto rs = db->OpenRecordset(QStringLiteral("tblProject"), RecordsetType::Dynaset);
         rs->AddNew();
@@ -136,7 +157,6 @@ void clsProject::Save()
         PID = rs->field(QStringLiteral("ProjectID")).toInt();
         rs->Update();
         rs->Close();
-        m_session.msgBox(QStringLiteral("Project has been saved successfully"), QString(), MsgIcon::Information);
     } else {
         auto rs = db->OpenRecordset(QStringLiteral("Select * from tblProject where ProjectID = %1").arg(PID),
                                     RecordsetType::Dynaset);
@@ -146,7 +166,26 @@ void clsProject::Save()
         rs->Update();
         rs->Close();
     }
-    m_session.GF_SetFileContent(Session::join(FilePath, FileName), markerLine(), QStringLiteral("Overwrite"));
+    const QString marker = Session::join(FilePath, FileName);
+    QFile previous(marker);
+    const bool hadMarker = previous.open(QIODevice::ReadOnly);
+    const QByteArray previousContent = hadMarker ? previous.readAll() : QByteArray();
+    previous.close();
+    if (m_session.GF_SetFileContent(marker, markerLine(), QStringLiteral("Overwrite")))
+        return;  // the writer has shown its error
+    try {
+        transaction.commit();
+    } catch (const VbError &) {
+        // The row was not stored: the marker file goes back to what it was.
+        if (hadMarker && previous.open(QIODevice::WriteOnly | QIODevice::Truncate))
+            previous.write(previousContent);
+        else if (!hadMarker)
+            QFile::remove(marker);
+        throw;
+    }
+    saved = true;
+    if (Mode == QLatin1String("Add"))
+        m_session.msgBox(QStringLiteral("Project has been saved successfully"), QString(), MsgIcon::Information);
     Mode = QStringLiteral("Edit");
 }
 

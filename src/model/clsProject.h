@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "ModelFields.h"
+
 #include <QDateTime>
 #include <QString>
 
@@ -47,6 +49,8 @@ public:
     QString Mode;
     QString FileName;
     QString FilePath;
+    //! The properties above by name (ModelFields.cpp), for scripts.
+    static const std::vector<ModelField<clsProject>> &fields();
 
     //! The project window; null while it does not exist.
     ProjectWindow *window = nullptr;

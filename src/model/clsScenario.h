@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "ModelFields.h"
 #include "Services.h"
 
 #include <QString>
@@ -73,6 +74,9 @@ public:
     qint32 SedimentCategoryID = 0;
     qint32 ChemicalID = 0;
     std::shared_ptr<Database> db;   //!< the further connection that Save opens
+
+    //! The properties above by name (ModelFields.cpp), for scripts.
+    static const std::vector<ModelField<clsScenario>> &fields();
 
     //! The builder's note boxes; null until the builder exists (then the notes read as empty).
     ScenarioNotes *notes = nullptr;

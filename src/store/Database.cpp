@@ -31,9 +31,53 @@ struct Database::Cache {
 
 namespace {
 constexpr int kStatementCacheLimit = 256;
+
+struct StatementCloser {
+    void operator()(sqlite3_stmt *stmt) const { sqlite3_finalize(stmt); }
+};
+using OwnedStatement = std::unique_ptr<sqlite3_stmt, StatementCloser>;
+
+//! True when what follows a statement is only blanks and empty statements.
+bool onlyEmptyStatements(const char *tail, const char *end)
+{
+    for (; tail && tail < end; ++tail) {
+        const char c = *tail;
+        if (c != ';' && c != ' ' && (c < '\t' || c > '\r'))
+            return false;
+    }
+    return true;
 }
 
-namespace {
+[[noreturn]] void raiseExtraStatement(const QString &context)
+{
+    throw VbError(VbErr::SyntaxError,
+                  QStringLiteral("Syntax error (characters found after end of SQL statement) in query expression '%1'.")
+                      .arg(context));
+}
+
+//! Prepares the first statement of sql and refuses anything after it, and a NUL, which SQLite would
+//! take as the end of the text. Returns SQLite's result code.
+int prepareFirst(sqlite3 *db, const QByteArray &sql, sqlite3_stmt **out, const QString &context)
+{
+    *out = nullptr;
+    if (sql.contains('\0'))
+        throw VbError(VbErr::SyntaxError, QStringLiteral("Syntax error (NUL character) in query expression '%1'.").arg(context));
+    const char *tail = nullptr;
+    const int rc = sqlite3_prepare_v2(db, sql.constData(), static_cast<int>(sql.size()), out, &tail);
+    if (rc == SQLITE_OK && !onlyEmptyStatements(tail, sql.constData() + sql.size())) {
+        sqlite3_finalize(*out);
+        *out = nullptr;
+        raiseExtraStatement(context);
+    }
+    return rc;
+}
+
+QString lockedText(const QString &path)
+{
+    return QStringLiteral("Could not update; currently locked. Another program is writing to the database '%1' "
+                          "and held it longer than we could wait. Nothing was saved; try again in a moment.")
+        .arg(path);
+}
 
 QString sqliteMessage(sqlite3 *db) { return QString::fromUtf8(sqlite3_errmsg(db)); }
 
@@ -41,6 +85,11 @@ QString sqliteMessage(sqlite3 *db) { return QString::fromUtf8(sqlite3_errmsg(db)
 int legacyNumber(int code, const QString &message)
 {
     const int primary = code & 0xff;
+    if (primary == SQLITE_BUSY || primary == SQLITE_LOCKED)
+        return VbErr::CurrentlyLocked;
+    // The schema's number columns check what they take; a key refuses anything but an integer.
+    if (code == SQLITE_CONSTRAINT_CHECK || primary == SQLITE_MISMATCH)
+        return VbErr::DataTypeMismatch;
     if (primary == SQLITE_CONSTRAINT) {
         if (message.contains(QLatin1String("UNIQUE")) || message.contains(QLatin1String("PRIMARY KEY")))
             return VbErr::DuplicateKey;
@@ -64,7 +113,12 @@ int legacyNumber(int code, const QString &message)
 
 }  // namespace
 
-Database::Database(QString path, sqlite3 *db) : m_path(std::move(path)), m_db(db), m_cache(std::make_unique<Cache>()) {}
+Database::Database(QString path, sqlite3 *db) : m_path(std::move(path)), m_db(db), m_cache(std::make_unique<Cache>())
+{
+    // Before the first statement: a lock held by another program is waited for, never reported at once.
+    sqlite3_busy_timeout(m_db, kBusyTimeoutMs);
+    registerJetFunctions(m_db);
+}
 
 Database::~Database()
 {
@@ -88,15 +142,19 @@ std::shared_ptr<Database> Database::open(const QString &path)
         throw VbError(legacyNumber(rc, msg), QStringLiteral("Cannot open database '%1'. %2").arg(path, msg));
     }
     std::shared_ptr<Database> result(new Database(path, db));
-    // A file that is not a database only shows itself on the first read.
-    char *err = nullptr;
-    if (sqlite3_exec(db, "SELECT count(*) FROM sqlite_master", nullptr, nullptr, &err) != SQLITE_OK) {
-        const QString msg = QString::fromUtf8(err ? err : "");
-        sqlite3_free(err);
+    // A file that is not a database only shows itself on the first read; a lock shows there too.
+    sqlite3_stmt *raw = nullptr;
+    int read = sqlite3_prepare_v2(db, "SELECT count(*) FROM sqlite_master", -1, &raw, nullptr);
+    const OwnedStatement probe(raw);
+    if (read == SQLITE_OK)
+        read = sqlite3_step(raw) == SQLITE_ROW ? SQLITE_OK : sqlite3_errcode(db);
+    if (read != SQLITE_OK) {
+        if (legacyNumber(read, {}) == VbErr::CurrentlyLocked)
+            throw VbError(VbErr::FileInUse, QStringLiteral("Could not use '%1'; file already in use. Another program "
+                                                           "holds it locked; try again in a moment.").arg(path));
         throw VbError(VbErr::NotDatabaseFormat,
-                      QStringLiteral("Unrecognized database format '%1'. %2").arg(path, msg));
+                      QStringLiteral("Unrecognized database format '%1'. %2").arg(path, sqliteMessage(db)));
     }
-    sqlite3_busy_timeout(db, 5000);
     return result;
 }
 
@@ -126,6 +184,10 @@ void Database::raiseLastError(const QString &context) const
         text = QStringLiteral("The Microsoft Jet database engine cannot find the input table or query. (%1)").arg(msg);
     else if (number == VbErr::TooFewParameters)
         text = QStringLiteral("Too few parameters. (%1)").arg(msg);
+    else if (number == VbErr::DataTypeMismatch)
+        text = QStringLiteral("Data type mismatch in criteria expression. (%1)").arg(msg);
+    else if (number == VbErr::CurrentlyLocked)
+        text = lockedText(m_path);
     else if (!context.isEmpty())
         text = QStringLiteral("%1 [%2]").arg(msg, context);
     throw VbError(number, text);
@@ -137,7 +199,7 @@ static bool isRowStatement(const QString &sql)
     const QString head = sql.trimmed().left(7).toUpper();
     return head.startsWith(QLatin1String("SELECT")) || head.startsWith(QLatin1String("INSERT"))
         || head.startsWith(QLatin1String("UPDATE")) || head.startsWith(QLatin1String("DELETE"))
-        || head.startsWith(QLatin1String("PRAGMA"));
+        || head.startsWith(QLatin1String("PRAGMA")) || head.startsWith(QLatin1String("WITH"));
 }
 
 void Database::readingStarted(Recordset *rs)
@@ -166,15 +228,32 @@ void Database::finishReading()
         m_cache->reading.first()->fetchAll();   // each one leaves the list when its statement ends
 }
 
+sqlite3_stmt *Database::prepareOne(const QByteArray &sql, const QString &context)
+{
+    sqlite3_stmt *stmt = nullptr;
+    if (prepareFirst(m_db, sql, &stmt, context) != SQLITE_OK)
+        raiseLastError(context);
+    return stmt;
+}
+
+int Database::runOne(const QByteArray &sql, const QString &context)
+{
+    const OwnedStatement stmt(prepareOne(sql, context));
+    if (!stmt)
+        return 0;
+    int rc;
+    while ((rc = sqlite3_step(stmt.get())) == SQLITE_ROW) {
+    }
+    if (rc != SQLITE_DONE)
+        raiseLastError(context);
+    return sqlite3_changes(m_db);
+}
+
 void Database::executeNative(const QString &sqliteSql)
 {
     if (!isRowStatement(sqliteSql))
         schemaMayChange();
-    char *err = nullptr;
-    if (sqlite3_exec(m_db, sqliteSql.toUtf8().constData(), nullptr, nullptr, &err) != SQLITE_OK) {
-        sqlite3_free(err);
-        raiseLastError(sqliteSql);
-    }
+    runOne(sqliteSql.toUtf8(), sqliteSql);
 }
 
 int Database::Execute(const QString &jetSql, bool failOnError)
@@ -193,13 +272,73 @@ int Database::Execute(const QString &jetSql, bool failOnError)
         else if (head.startsWith("UPDATE "))
             text = "UPDATE OR IGNORE " + utf8.trimmed().mid(7);
     }
-    char *err = nullptr;
-    if (sqlite3_exec(m_db, text.constData(), nullptr, nullptr, &err) != SQLITE_OK) {
-        sqlite3_free(err);
-        raiseLastError(jetSql);
-    }
-    m_recordsAffected = sqlite3_changes(m_db);
+    m_recordsAffected = runOne(text, jetSql);
     return m_recordsAffected;
+}
+
+bool Database::shareWithOtherPrograms()
+{
+    sqlite3_stmt *raw = nullptr;
+    if (sqlite3_prepare_v2(m_db, "PRAGMA journal_mode=WAL", -1, &raw, nullptr) != SQLITE_OK)
+        return false;
+    const OwnedStatement stmt(raw);
+    return sqlite3_step(raw) == SQLITE_ROW
+           && qstricmp(reinterpret_cast<const char *>(sqlite3_column_text(raw, 0)), "wal") == 0;
+}
+
+qint64 Database::reserveAutonumber(const QString &table, const QString &keyColumn)
+{
+    const QString t = QString(table).replace(QLatin1Char('"'), QLatin1String("\"\""));
+    const QString k = QString(keyColumn).replace(QLatin1Char('"'), QLatin1String("\"\""));
+    int autoIncrement = 0;
+    sqlite3_table_column_metadata(m_db, nullptr, table.toUtf8().constData(), keyColumn.toUtf8().constData(), nullptr,
+                                  nullptr, nullptr, nullptr, &autoIncrement);
+    auto scalar = [&](const QString &sql, qint64 bound) {
+        const OwnedStatement stmt(prepareOne(sql.toUtf8(), table));
+        const QByteArray name = table.toUtf8();
+        const int parameters = sqlite3_bind_parameter_count(stmt.get());
+        if (parameters > 0)
+            sqlite3_bind_text(stmt.get(), 1, name.constData(), static_cast<int>(name.size()), SQLITE_TRANSIENT);
+        if (parameters > 1)
+            sqlite3_bind_int64(stmt.get(), 2, bound);
+        const int rc = sqlite3_step(stmt.get());
+        if (rc != SQLITE_ROW && rc != SQLITE_DONE)
+            raiseLastError(table);
+        return rc == SQLITE_ROW ? sqlite3_column_int64(stmt.get(), 0) : qint64(sqlite3_changes(m_db));
+    };
+    if (!autoIncrement)
+        return scalar(QStringLiteral("SELECT coalesce(max(\"%1\"), 0) + 1 FROM \"%2\"").arg(k, t), 0);
+    // The read and the write of the counter are one transaction under the write lock, so that two
+    // programs cannot both read the same number.
+    Transaction reservation(*this);
+    const qint64 next = scalar(QStringLiteral("SELECT max(coalesce((SELECT seq FROM sqlite_sequence WHERE name = ?1), 0), "
+                                              "coalesce((SELECT max(\"%1\") FROM \"%2\"), 0)) + 1").arg(k, t), 0);
+    if (scalar(QStringLiteral("UPDATE sqlite_sequence SET seq = ?2 WHERE name = ?1"), next) == 0)
+        scalar(QStringLiteral("INSERT INTO sqlite_sequence (name, seq) VALUES (?1, ?2)"), next);
+    reservation.commit();
+    return next;
+}
+
+Database::Transaction::Transaction(Database &db) : m_db(db)
+{
+    if (!sqlite3_get_autocommit(db.m_db))
+        return;
+    db.runOne("BEGIN IMMEDIATE", QStringLiteral("BEGIN"));
+    m_active = true;
+}
+
+Database::Transaction::~Transaction()
+{
+    if (m_active)
+        sqlite3_exec(m_db.m_db, "ROLLBACK", nullptr, nullptr, nullptr);
+}
+
+void Database::Transaction::commit()
+{
+    if (!m_active)
+        return;
+    m_db.runOne("COMMIT", QStringLiteral("COMMIT"));
+    m_active = false;
 }
 
 std::unique_ptr<Recordset> Database::OpenRecordset(const QString &source, RecordsetType type)
@@ -317,7 +456,7 @@ int Database::prepareCached(const QByteArray &sql, sqlite3_stmt **out)
         *out = it->stmt;
         return SQLITE_OK;
     }
-    const int rc = sqlite3_prepare_v2(m_db, sql.constData(), static_cast<int>(sql.size()), out, nullptr);
+    const int rc = prepareFirst(m_db, sql, out, QString::fromUtf8(sql));
     if (rc != SQLITE_OK || it != m_cache->statements.end())
         return rc;   // a failure, or a second user of a statement in use: not cached
     if (m_cache->statements.size() >= kStatementCacheLimit) {

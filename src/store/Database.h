@@ -14,10 +14,15 @@ struct sqlite3_stmt;
 //! legacy numbers (3022 duplicate key, 3075 syntax error, 3078 unknown table, 3024 missing file...).
 class Database {
 public:
-    //! Opens an existing database file. A missing file throws 3024, a file that is not a database 3343.
+    //! Opens an existing database file. A missing file throws 3024, a file that is not a database 3343,
+    //! a file that another program keeps locked beyond the wait 3045.
     static std::shared_ptr<Database> open(const QString &path);
     //! Creates (or opens) a database file, for the seed builder and tests.
     static std::shared_ptr<Database> create(const QString &path);
+
+    //! How long every statement of a connection, its first included, waits for another program's
+    //! lock before it gives up with 3218 "Could not update; currently locked.".
+    static constexpr int kBusyTimeoutMs = 5000;
 
     ~Database();
     Database(const Database &) = delete;
@@ -28,13 +33,40 @@ public:
     //! Opens a recordset on a table name or a Jet SELECT statement.
     std::unique_ptr<Recordset> OpenRecordset(const QString &source, RecordsetType type = RecordsetType::Dynaset);
 
-    //! Runs an action statement. With failOnError (dbFailOnError) any error throws; without it, as in
+    //! Runs one action statement. With failOnError (dbFailOnError) any error throws; without it, as in
     //! DAO, a statement that is syntactically wrong still throws, but constraint failures on single rows
-    //! are skipped. Returns the number of rows affected.
+    //! are skipped. Returns the number of rows affected. Text after the statement (a second statement)
+    //! or a NUL character is the syntax error 3075, and nothing runs.
     int Execute(const QString &jetSql, bool failOnError = true);
 
-    //! Runs a SQLite statement as it stands, without translation (schema, pragmas).
+    //! Runs one SQLite statement as it stands, without translation (schema, pragmas); the same rule of
+    //! one statement applies.
     void executeNative(const QString &sqliteSql);
+
+    //! Puts the file in write-ahead-log mode, in which the readers and the one writer of several
+    //! programs work side by side. False where the file system does not allow it (the file then keeps
+    //! its rollback journal, and programs take turns).
+    bool shareWithOtherPrograms();
+
+    //! The next autonumber of table's key, reserved at once: it is written as used, so that no other
+    //! program, and no later AddNew, gets it. A key without AUTOINCREMENT cannot be reserved and gets
+    //! the next free number.
+    qint64 reserveAutonumber(const QString &table, const QString &keyColumn);
+
+    //! A write transaction: it takes the write lock at once (waiting as a statement waits) and is
+    //! rolled back unless committed, so that a failure leaves nothing half-written. Inside another
+    //! transaction it does nothing: the outer one decides.
+    class Transaction {
+    public:
+        explicit Transaction(Database &db);
+        ~Transaction();
+        Transaction(const Transaction &) = delete;
+        Transaction &operator=(const Transaction &) = delete;
+        void commit();
+    private:
+        Database &m_db;
+        bool m_active = false;
+    };
 
     //! Rows affected by the last Execute.
     int RecordsAffected() const { return m_recordsAffected; }
@@ -54,6 +86,7 @@ public:
     //! A prepared statement for sql, from a cache of statements kept across calls (preparing is the
     //! dearest part of a small query). Returns SQLite's result code; hand the statement back with
     //! releaseCached. A statement still in use is never handed out twice: a second one is prepared.
+    //! Text after the first statement, or a NUL, throws the syntax error 3075.
     int prepareCached(const QByteArray &sql, sqlite3_stmt **out);
     //! Resets a statement from prepareCached and makes it available again (or finalizes it).
     void releaseCached(sqlite3_stmt *stmt);
@@ -83,6 +116,10 @@ private:
     //! Before a statement that may change the schema: open statements are read to the end and the
     //! result shapes forgotten.
     void schemaMayChange();
+    //! Prepares the one statement of sql (null for text without a statement); see prepareCached.
+    sqlite3_stmt *prepareOne(const QByteArray &sql, const QString &context);
+    //! Runs the one statement of sql to its end; the rows it changed.
+    int runOne(const QByteArray &sql, const QString &context);
 
     QString m_path;
     sqlite3 *m_db = nullptr;

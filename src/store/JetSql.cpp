@@ -12,6 +12,8 @@
 #include <string_view>
 #include <vector>
 
+#include <sqlite3.h>
+
 namespace {
 
 // ---------------------------------------------------------------------------------------------
@@ -274,6 +276,9 @@ bool isBlank(QChar c)
 
 std::vector<Token> tokenize(const QString &s)
 {
+    // SQLite reads a statement only up to a NUL: whatever follows it would go unseen.
+    if (s.contains(QChar(0)))
+        syntaxError(QStringLiteral("(NUL character)"), s);
     std::vector<Token> out;
     out.reserve(size_t(s.size() / 4 + 4));
     const qsizetype n = s.size();
@@ -503,6 +508,9 @@ void appendQuoted(QString &out, const QString &value, QChar quote)
 
 enum class Ctx : unsigned char { Plain, Like, Between };
 
+// Parentheses nest at most this deep; the translation recurses once per level.
+constexpr size_t kMaxDepth = 200;
+
 class Translator {
 public:
     Translator(const QString &src, bool statement) : m_src(src), m_t(tokenize(src))
@@ -515,6 +523,8 @@ public:
         for (int i = 0; i < n; ++i) {
             m_parent[size_t(i)] = stack.empty() ? -1 : stack.back();
             if (isOp(i, '(')) {
+                if (stack.size() >= kMaxDepth)
+                    syntaxError(QStringLiteral("(too many nested parentheses)"), m_src);
                 stack.push_back(i);
             } else if (isOp(i, ')')) {
                 if (stack.empty())
@@ -527,6 +537,17 @@ public:
         }
         if (!stack.empty())
             syntaxError(QStringLiteral("(missing ')')"), m_src);
+        // One statement per text: a `;` may only close a statement, and a criteria has none.
+        for (int i = 0; i < n; ++i) {
+            if (!isOp(i, ';'))
+                continue;
+            if (!statement)
+                syntaxError(QStringLiteral("(';' in criteria)"), m_src);
+            for (int j = i + 1; j < n; ++j)
+                if (!isOp(j, ';'))
+                    syntaxError(QStringLiteral("(characters found after end of SQL statement)"), m_src);
+            break;
+        }
         // A word followed by a qualifier is a table name, never a keyword.
         for (int i = 0; i + 1 < n; ++i) {
             if (m_t[size_t(i)].kind == Tk::Word && (isOp(i + 1, '.') || isOp(i + 1, '!')))
@@ -748,7 +769,8 @@ private:
             out += QLatin1String(" ESCAPE '\\'");
     }
 
-    // One operand of `&`: Null reads as '' and a real number as its shortest text (3, not 3.0).
+    // One operand of `&`: Null reads as '' and a real number as its shortest text (3, not 3.0), by
+    // jet_text, so that the operand is written once however deeply `&` nests.
     void concatPart(int b, int e, Ctx ctx, QString &out)
     {
         const bool oldPending = m_pendingSpace;
@@ -760,8 +782,7 @@ private:
             out += x;
             return;
         }
-        out += QLatin1String("CASE typeof(") + x + QLatin1String(") WHEN 'real' THEN printf('%.15g',") + x
-               + QLatin1String(") WHEN 'null' THEN '' ELSE ") + x + QLatin1String(" END");
+        out += QLatin1String("jet_text(") + x + QLatin1Char(')');
     }
 
     void operand(int b, int e, Ctx ctx, QString &out)
@@ -860,7 +881,7 @@ private:
             break;
         case Fn::Right:
             if (a.size() == 2)
-                text = QStringLiteral("SUBSTR(%1,MAX(LENGTH(%1)-(%2)+1,1))").arg(a[0], a[1]);
+                text = QStringLiteral("jet_right(%1,%2)").arg(a[0], a[1]);
             break;
         case Fn::Val:
             if (a.size() == 1)
@@ -956,4 +977,51 @@ QString translateJetSql(const QString &jetSql)
 QString translateJetCriteria(const QString &jetCriteria)
 {
     return Translator(jetCriteria, false).run();
+}
+
+namespace {
+
+// jet_text(x): an operand of `&`. Null is '', a real number its text to 15 digits (3, not 3.0),
+// anything else itself.
+void jetText(sqlite3_context *ctx, int, sqlite3_value **argv)
+{
+    sqlite3_value *v = argv[0];
+    switch (sqlite3_value_type(v)) {
+    case SQLITE_NULL:
+        sqlite3_result_text(ctx, "", 0, SQLITE_STATIC);
+        return;
+    case SQLITE_FLOAT:
+        sqlite3_result_text(ctx, sqlite3_mprintf("%.15g", sqlite3_value_double(v)), -1, sqlite3_free);
+        return;
+    default:
+        sqlite3_result_value(ctx, v);
+    }
+}
+
+// jet_right(s, n): the last n characters of s; '' for n <= 0, all of s for n beyond its length.
+void jetRight(sqlite3_context *ctx, int, sqlite3_value **argv)
+{
+    if (sqlite3_value_type(argv[0]) == SQLITE_NULL || sqlite3_value_type(argv[1]) == SQLITE_NULL) {
+        sqlite3_result_null(ctx);
+        return;
+    }
+    const auto *s = sqlite3_value_text(argv[0]);
+    const int bytes = sqlite3_value_bytes(argv[0]);
+    const sqlite3_int64 n = sqlite3_value_int64(argv[1]);
+    int pos = bytes;
+    for (sqlite3_int64 taken = 0; pos > 0 && taken < n; ++taken) {
+        --pos;
+        while (pos > 0 && (s[pos] & 0xC0) == 0x80)  // back over UTF-8 continuation bytes
+            --pos;
+    }
+    sqlite3_result_text(ctx, reinterpret_cast<const char *>(s) + pos, bytes - pos, SQLITE_TRANSIENT);
+}
+
+}  // namespace
+
+void registerJetFunctions(sqlite3 *db)
+{
+    const int flags = SQLITE_UTF8 | SQLITE_DETERMINISTIC | SQLITE_INNOCUOUS;
+    sqlite3_create_function(db, "jet_text", 1, flags, nullptr, jetText, nullptr, nullptr);
+    sqlite3_create_function(db, "jet_right", 2, flags, nullptr, jetRight, nullptr, nullptr);
 }

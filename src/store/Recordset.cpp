@@ -707,26 +707,11 @@ void Recordset::AddNew()
             }
         }
     }
-    // The autonumber of the new row is known at once: callers read it before Update.
+    // The autonumber of the new row is known at once: callers read it before Update. It is reserved,
+    // so that another program adding a row meanwhile gets another number.
     m_newKey = 0;
     if (!m_keyColumn.isEmpty()) {
-        Statement st;
-        const QByteArray q = QStringLiteral("SELECT max(coalesce((SELECT seq FROM sqlite_sequence WHERE name = '%1'), 0), "
-                                            "coalesce((SELECT max(\"%2\") FROM \"%1\"), 0)) + 1")
-                                 .arg(m_table, m_keyColumn)
-                                 .toUtf8();
-        if (st.prepare(m_db, q.constData()) != SQLITE_OK) {
-            // sqlite_sequence exists only once a table uses AUTOINCREMENT; without it use the column.
-            Statement alt;
-            const QByteArray q2 = QStringLiteral("SELECT coalesce(max(\"%2\"), 0) + 1 FROM \"%1\"").arg(m_table, m_keyColumn).toUtf8();
-            if (alt.prepare(m_db, q2.constData()) != SQLITE_OK)
-                m_db->raiseLastError(m_table);
-            sqlite3_step(alt.stmt);
-            m_newKey = sqlite3_column_int64(alt.stmt, 0);
-        } else {
-            sqlite3_step(st.stmt);
-            m_newKey = sqlite3_column_int64(st.stmt, 0);
-        }
+        m_newKey = m_db->reserveAutonumber(m_table, m_keyColumn);
         if (m_keyIndex >= 0) {
             m_buffer[m_keyIndex] = static_cast<int>(m_newKey);
             m_dirty[m_keyIndex] = true;

@@ -14,6 +14,7 @@ namespace {
 //   I  id or reference to one  INTEGER
 //   T  text, M memo            TEXT COLLATE NOCASE (text compares ignore case throughout the program)
 //   N  number                  REAL (numeric text such as '0.250' becomes 0.25 on insert)
+//   I, N and B refuse anything that is not a number (see columnDdl).
 //   B  yes/no                  BOOLEAN, stored 1/0
 //   D  date and time           DATETIME, stored as 'yyyy-MM-dd hh:mm:ss'
 // A column may carry "=default" after its kind: "DataSourceID:I=6".
@@ -217,6 +218,13 @@ QString columnDdl(const ColumnDef &c)
     QString ddl = QLatin1Char('[') + c.name + QStringLiteral("] ") + type;
     if (!c.defaultValue.isEmpty())
         ddl += QStringLiteral(" DEFAULT ") + c.defaultValue;
+    // A number column takes a number, or text that reads as one (the column's affinity has converted
+    // it before the check), and refuses any other text, a blob and an infinity. The key refuses them
+    // by itself.
+    if (c.kind == QLatin1Char('I') || c.kind == QLatin1Char('N') || c.kind == QLatin1Char('B'))
+        ddl += QStringLiteral(" CONSTRAINT [%1] CHECK (typeof([%1]) IN ('integer', 'real', 'null') "
+                              "AND [%1] BETWEEN -1.7976931348623157e308 AND 1.7976931348623157e308)")
+                   .arg(c.name);
     return ddl;
 }
 

@@ -30,6 +30,9 @@ constexpr int InputTableNotFound = 3078;
 constexpr int ItemNotFound = 3265;  //!< field name not in the collection
 constexpr int NotDatabaseFormat = 3343;
 constexpr int DataTypeConversion = 3421;
+constexpr int DataTypeMismatch = 3464;  //!< "Data type mismatch in criteria expression."
+constexpr int CurrentlyLocked = 3218;   //!< "Could not update; currently locked."
+constexpr int FileInUse = 3045;         //!< "Could not use '<file>'; file already in use."
 constexpr int GenericDbError = 3146;  //!< "ODBC--call failed" stands in for anything else
 }  // namespace VbErr
 

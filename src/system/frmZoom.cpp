@@ -1,36 +1,19 @@
 // SPDX-License-Identifier: MIT
 #include "frmZoom.h"
 
+#include "ControlValue.h"
 #include "Diagnostics.h"
 #include "FormBuilder.h"
 #include "QtWindowHost.h"
 #include "Session.h"
-#include "Utilities.h"
 #include "ZobToolbar.h"
 
 #include <QAction>
-#include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QStyle>
-#include <QTextEdit>
 
 namespace {
 const WindowRegistration<frmZoom> reg(QStringLiteral("frmZoom"));
-
-QString textOf(const QWidget *w)
-{
-    if (auto *e = qobject_cast<const QLineEdit *>(w)) return e->text();
-    if (auto *p = qobject_cast<const QPlainTextEdit *>(w)) return p->toPlainText();
-    if (auto *t = qobject_cast<const QTextEdit *>(w)) return t->toPlainText();
-    return {};
-}
-
-void setTextOf(QWidget *w, const QString &text)
-{
-    if (auto *e = qobject_cast<QLineEdit *>(w)) e->setText(text);
-    else if (auto *p = qobject_cast<QPlainTextEdit *>(w)) p->setPlainText(text);
-    else if (auto *t = qobject_cast<QTextEdit *>(w)) t->setPlainText(text);
-}
 }  // namespace
 
 frmZoom::frmZoom(Session &session, QtWindowHost &host) : ZobWindow(session, host, QStringLiteral("frmZoom"))
@@ -38,27 +21,28 @@ frmZoom::frmZoom(Session &session, QtWindowHost &host) : ZobWindow(session, host
     setCaption(QStringLiteral("Zoom"));
     HelpContextID = 3520;
     FormBuilder b(this);
-    ZobToolbar *tb = b.toolbar();
-    tb->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    tb->addSeparatorButton();
-    tb->addButton(QStringLiteral("Clear"), QStringLiteral("Clear the text"), QStringLiteral("Clear"));
-    tb->addSeparatorButton();
-    tb->addButton(QStringLiteral("OK"), QStringLiteral("Keep the text and close"), QStringLiteral("OK"));
-    tb->addSeparatorButton();
-    tb->addButton(QStringLiteral("Bigger"), QStringLiteral("Larger text"), QStringLiteral("A+"));
-    tb->addSeparatorButton();
-    tb->addButton(QStringLiteral("Smaller"), QStringLiteral("Smaller text"), QStringLiteral("A-"));
-    tb->addSeparatorButton();
-    tb->addButton(QStringLiteral("Help"), QStringLiteral("Help"), QStringLiteral("Help"));
-    tb->button(2)->setIcon(style()->standardIcon(QStyle::SP_LineEditClearButton));
-    tb->button(4)->setIcon(style()->standardIcon(QStyle::SP_DialogOkButton));
-    tb->button(6)->setIcon(style()->standardIcon(QStyle::SP_ArrowUp));
-    tb->button(8)->setIcon(style()->standardIcon(QStyle::SP_ArrowDown));
+    ZobToolbar *tb = buildToolbar(b,
+                                  {ToolButton::separator(),
+                                   {"Clear", "Clear the text", "Clear", [this] { ControlValue::clear(m_txtZoom); }},
+                                   ToolButton::separator(),
+                                   {"OK", "Keep the text and close", "OK", [this] { keepAndClose(); }},
+                                   ToolButton::separator(),
+                                   {"Bigger", "Larger text", "A+", [this] { resizeText(2); }},
+                                   ToolButton::separator(),
+                                   {"Smaller", "Smaller text", "A-", [this] { resizeText(-2); }},
+                                   ToolButton::separator(),
+                                   {"Help", "Help", "Help", [this] { showHelp(); }}},
+                                  QStringLiteral("frmDE_AE.LoadForm"));
+    const std::pair<const char *, QStyle::StandardPixmap> icons[] = {{"Clear", QStyle::SP_LineEditClearButton},
+                                                                     {"OK", QStyle::SP_DialogOkButton},
+                                                                     {"Bigger", QStyle::SP_ArrowUp},
+                                                                     {"Smaller", QStyle::SP_ArrowDown}};
+    for (const auto &[key, icon] : icons)
+        tb->button(QString::fromLatin1(key))->setIcon(style()->standardIcon(icon));
     m_txtZoom = b.memo(QStringLiteral("txtZoom"));
     m_txtZoom->setTabChangesFocus(false);
     FormBuilder::userTyped(m_txtZoom);
     resize(640, 440);
-    connect(tb, &ZobToolbar::ButtonClick, this, [this](int index, const QString &) { TB_MDI_ButtonClick(index); });
 }
 
 bool frmZoom::ZoomText(QWidget *target, const QString &caption, bool readOnly)
@@ -66,52 +50,33 @@ bool frmZoom::ZoomText(QWidget *target, const QString &caption, bool readOnly)
     m_target = target;
     m_written = false;
     setCaption(caption);
-    m_txtZoom->setPlainText(textOf(target));
-    setLocked(m_txtZoom, readOnly);
-    m_txtZoom->setReadOnly(readOnly);
-    if (QAction *clear = toolbar()->button(2))
-        clear->setVisible(!readOnly);
-    if (QAction *ok = toolbar()->button(4))
-        ok->setToolTip(readOnly ? QStringLiteral("Close") : QStringLiteral("Keep the text and close"));
+    ControlValue::setText(m_txtZoom, ControlValue::text(target));
+    ControlValue::setLocked(m_txtZoom, readOnly);
+    toolbar()->button(QStringLiteral("Clear"))->setVisible(!readOnly);
+    toolbar()->button(QStringLiteral("OK"))->setToolTip(readOnly ? QStringLiteral("Close") : QStringLiteral("Keep the text and close"));
     m_txtZoom->setFocus();
     QPointer<frmZoom> self(this);
     host().show(objectName(), true);
     return self ? m_written : false;
 }
 
-void frmZoom::TB_MDI_ButtonClick(int index)
+void frmZoom::keepAndClose()
 {
-    guarded(session(), {ErrForm::Shared, QStringLiteral("frmDE_AE.LoadForm")}, [&] {
-        QFont font = m_txtZoom->font();
-        switch (index) {
-        case 2:
-            m_txtZoom->clear();
-            break;
-        case 4:
-            if (m_target && !m_txtZoom->isReadOnly()) {
-                setTextOf(m_target, m_txtZoom->toPlainText());
-                m_written = true;
-            }
-            unloadMe();
-            break;
-        case 6:
-            font.setPointSize(font.pointSize() + 2);
-            m_txtZoom->setFont(font);
-            break;
-        case 8:
-            // The platform takes no size below 1 point.
-            if (font.pointSize() - 2 < 1)
-                throw VbError(380, QStringLiteral("Invalid property value"));
-            font.setPointSize(font.pointSize() - 2);
-            m_txtZoom->setFont(font);
-            break;
-        case 10:
-            showHelp();
-            break;
-        default:
-            break;
-        }
-    });
+    if (m_target && !ControlValue::locked(m_txtZoom)) {
+        ControlValue::setText(m_target, ControlValue::text(m_txtZoom));
+        m_written = true;
+    }
+    unloadMe();
+}
+
+void frmZoom::resizeText(int points)
+{
+    QFont font = m_txtZoom->font();
+    // The platform takes no size below 1 point.
+    if (font.pointSize() + points < 1)
+        throw VbError(380, QStringLiteral("Invalid property value"));
+    font.setPointSize(font.pointSize() + points);
+    m_txtZoom->setFont(font);
 }
 
 bool frmZoom::Form_KeyDown(int keyCode, int shift)

@@ -23,7 +23,10 @@ public:
     bool ZoomText(QWidget *target, const QString &caption, bool readOnly);
 
 private:
-    void TB_MDI_ButtonClick(int index);
+    //! OK: writes the text back into the target box (unless read-only) and closes.
+    void keepAndClose();
+    //! Makes the text points larger (or smaller, for a negative step).
+    void resizeText(int points);
 
     QPlainTextEdit *m_txtZoom;
     QPointer<QWidget> m_target;

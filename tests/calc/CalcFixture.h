@@ -10,6 +10,7 @@
 #include <QStringList>
 #include <QVariant>
 #include <gtest/gtest.h>
+#include <sqlite3.h>
 
 class CalcTest : public ::testing::Test {
 protected:
@@ -23,7 +24,12 @@ protected:
     }
 
     //! Runs SQLite statements as they stand (test setup only).
-    void sql(const QString &statements) { s.gDB->executeNative(statements); }
+    //! Fixture text, several statements at once, run on the connection as it stands.
+    void sql(const QString &statements)
+    {
+        ASSERT_EQ(sqlite3_exec(s.gDB->handle(), statements.toUtf8().constData(), nullptr, nullptr, nullptr), SQLITE_OK)
+            << sqlite3_errmsg(s.gDB->handle());
+    }
 
     //! A moisture row.
     void water(int id, const QString &mean, int dataSource = 4)

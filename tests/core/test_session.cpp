@@ -8,6 +8,7 @@
 #include <QFile>
 #include <QTextStream>
 #include <gtest/gtest.h>
+#include <sqlite3.h>
 
 namespace {
 
@@ -81,6 +82,39 @@ TEST(Session, MainWithoutDatabaseReportsAppInit)
     ASSERT_EQ(messages.shown.size(), 1);
     EXPECT_TRUE(messages.shown[0].text.startsWith(QStringLiteral("Error in routine AppInit")));
     EXPECT_TRUE(messages.shown[0].text.endsWith(QStringLiteral("3024")));
+}
+
+// An empty file, or another program's database, is refused as a damaged database before anything
+// is written: the file stays as it was and nothing is made beside it.
+TEST(Session, MainRefusesAFileWithoutTheProgramsTables)
+{
+    for (const bool foreign : {false, true}) {
+        QTemporaryDir dir;
+        const QString path = Session::join(dir.path(), Session::databaseFileName());
+        if (foreign) {
+            sqlite3 *other = nullptr;
+            ASSERT_EQ(sqlite3_open(path.toUtf8().constData(), &other), SQLITE_OK);
+            ASSERT_EQ(sqlite3_exec(other, "CREATE TABLE tblProject (a)", nullptr, nullptr, nullptr), SQLITE_OK);
+            sqlite3_close(other);
+        } else {
+            QFile empty(path);
+            ASSERT_TRUE(empty.open(QIODevice::WriteOnly));
+        }
+        const QString before = readAll(path);
+        Session s;
+        RecordingMessages messages;
+        s.messages = &messages;
+        s.home = dir.path();
+        EXPECT_FALSE(s.Main());
+        EXPECT_FALSE(s.gDB);
+        ASSERT_EQ(messages.shown.size(), 1);
+        EXPECT_TRUE(messages.shown[0].text.startsWith(QStringLiteral("Error in routine AppInit")));
+        EXPECT_TRUE(messages.shown[0].text.contains(QStringLiteral("Unrecognized database format")));
+        EXPECT_TRUE(messages.shown[0].text.endsWith(QStringLiteral("3343")));
+        EXPECT_EQ(readAll(path), before);
+        EXPECT_EQ(QDir(dir.path()).entryList(QDir::NoDotAndDotDot | QDir::AllEntries),
+                  QStringList{Session::databaseFileName()});
+    }
 }
 
 TEST(Session, FileContentOverwritesAppendsAndReadsTheFirstLine)

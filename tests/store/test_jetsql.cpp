@@ -102,6 +102,7 @@ protected:
     void SetUp() override
     {
         ASSERT_EQ(sqlite3_open(":memory:", &m_db), SQLITE_OK);
+        registerJetFunctions(m_db);
         native(kSchema);
         native(("CREATE VIEW qryReference AS " + translateJetSql(kReferenceQuery)).toUtf8().constData());
     }
@@ -207,8 +208,8 @@ TEST(JetSqlText, RewritesTheDialectForms)
         {"Name = '50%_*?' AND Path = 'C:\\x'", "Name = '50%_*?' AND Path = 'C:\\x'"},
         {"Nz(a) + Nz(b, 0) + Len(c) + Val(d)", "IFNULL(a,'') + IFNULL(b,0) + LENGTH(c) + CAST(d AS REAL)"},
         {"UCase(a) = LCase(Mid(b, 2, 3))", "UPPER(a) = LOWER(SUBSTR(b, 2, 3))"},
-        {"Right(Name, 3) = 'bin'", "SUBSTR(Name,MAX(LENGTH(Name)-(3)+1,1)) = 'bin'"},
-        {"a = 'x' & b", "a = ('x' || CASE typeof(b) WHEN 'real' THEN printf('%.15g',b) WHEN 'null' THEN '' ELSE b END) COLLATE NOCASE"},
+        {"Right(Name, 3) = 'bin'", "jet_right(Name,3) = 'bin'"},
+        {"a = 'x' & b", "a = ('x' || jet_text(b)) COLLATE NOCASE"},
     };
     for (const auto &c : cases) {
         EXPECT_EQ(translateJetSql(QString::fromUtf8(c.jet)).toStdString(), c.sqlite) << c.jet;
@@ -230,10 +231,43 @@ TEST(JetSqlText, UnreadableTextRaisesSyntaxError)
         "Select * From t Where a = 1)",
         "Select a & & b From t",
         "Select a & From t",
+        // One statement per text: what typed text can append after a closed quote.
+        "Insert Into tblComments (UserID, Comment) Values (1, 'x'); DELETE FROM tblProject WHERE ('1'='1')",
+        "Select * From t; Select * From u",
+        "Select * From t;;x",
     };
     for (const char *jet : bad)
         EXPECT_EQ(errorNumberOf(QString::fromUtf8(jet)), VbErr::SyntaxError) << jet;
     EXPECT_EQ(errorNumberOf(QStringLiteral("Select * From tblUser Where User ='o''brien'")), 0);
+    // A closing `;`, or several, is no second statement; a `;` inside a literal is text.
+    EXPECT_EQ(errorNumberOf(QStringLiteral("Select * From t Where a = 'x;y';; ")), 0);
+    // SQLite stops reading at a NUL, so text after one would go unseen.
+    EXPECT_EQ(errorNumberOf(QStringLiteral("Select * From t Where a = '") + QChar(0) + QStringLiteral("'")),
+              VbErr::SyntaxError);
+    // Criteria are one expression: no `;` at all.
+    EXPECT_THROW(translateJetCriteria(QStringLiteral("a = 1;")), VbError);
+    // Nesting is bounded, so the translation's recursion is too.
+    EXPECT_EQ(errorNumberOf(QStringLiteral("Select ") + QString(300, QLatin1Char('(')) + QLatin1Char('1')
+                            + QString(300, QLatin1Char(')'))),
+              VbErr::SyntaxError);
+}
+
+// Every operand of `&` and every argument of Right is written once, so that nesting them does not
+// multiply the text: the translation of n nested levels grows linearly with n.
+TEST(JetSqlText, OutputGrowsLinearlyWithNesting)
+{
+    auto nested = [](int depth) {
+        QString concat = QStringLiteral("a"), right = QStringLiteral("b");
+        for (int i = 0; i < depth; ++i) {
+            concat = QStringLiteral("(") + concat + QStringLiteral(" & a)");
+            right = QStringLiteral("Right(") + right + QStringLiteral(" & 'x', 2)");
+        }
+        return QStringLiteral("SELECT ") + concat + QStringLiteral(", ") + right + QStringLiteral(" FROM t");
+    };
+    for (int depth : {10, 40, 150}) {
+        const QString jet = nested(depth);
+        EXPECT_LT(translateJetSql(jet).size(), 8 * jet.size()) << depth;
+    }
 }
 
 // ---------------------------------------------------------------------------------------------
@@ -409,8 +443,9 @@ TEST_F(JetSqlDb, JetFunctions)
     EXPECT_EQ(rows("SELECT IIf(Len(Common) > 5, UCase(Left(Common, 3)), LCase(Right(Common, 2))), "
                    "Mid(Latin, 2, 3), Nz(Habitat, 'none'), Nz(Habitat) & '|' FROM tblSpecies WHERE SpeciesID IN (1, 4, 6)"),
               (Rows{"AME|urd|woodland edges|woodland edges|", "at|yot|caves|caves|", "4t|eli|none||"}));
-    EXPECT_EQ(rows("SELECT Val('12.5 kg') * 2, Val('x'), Right('ab', 5), Right('abc', 0) & '|'"),
-              Rows{"25.0|0.0|ab||"});
+    EXPECT_EQ(rows("SELECT Val('12.5 kg') * 2, Val('x'), Right('ab', 5), Right('abc', 0) & '|', Right('héllo', 4), "
+                   "Right(12345, 2), Right(Null, 2) Is Null, Right('abc', -1) & '|', 2.5 & '|' & 3.0 & 7"),
+              Rows{"25.0|0.0|ab|||éllo|45|1|||2.5|37"});
     EXPECT_EQ(rows("SELECT Date() = Left(Now(), 10) & ' 00:00:00', Now() >= Date(), "
                    "Count(*) FROM tblScenario WHERE Scenario_LastSaved < Now()"),
               Rows{"1|1|2"});

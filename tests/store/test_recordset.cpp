@@ -5,6 +5,7 @@
 
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
+#include <sqlite3.h>
 
 namespace {
 
@@ -13,12 +14,14 @@ protected:
     void SetUp() override
     {
         db = Database::create(dir.filePath(QStringLiteral("t.sqlite")));
-        db->executeNative(QStringLiteral(
+        ASSERT_EQ(sqlite3_exec(db->handle(), 
             "CREATE TABLE tblThing (ThingID INTEGER PRIMARY KEY AUTOINCREMENT, Name TEXT COLLATE NOCASE, "
             "Amount REAL, Flag BOOLEAN DEFAULT 0, Added DATETIME, Kind INTEGER DEFAULT 6);"
             "CREATE TABLE tblLink (ThingID INTEGER, Note TEXT COLLATE NOCASE);"
             "INSERT INTO tblThing (Name, Amount, Kind) VALUES ('Alder', 1.5, 4), ('birch', 2.5, 7), ('Cedar', NULL, 4);"
-            "INSERT INTO tblLink VALUES (1, 'a'), (1, 'b'), (3, 'c');"));
+            "INSERT INTO tblLink VALUES (1, 'a'), (1, 'b'), (3, 'c');",
+                               nullptr, nullptr, nullptr),
+                  SQLITE_OK);
     }
     QTemporaryDir dir;
     std::shared_ptr<Database> db;
@@ -246,7 +249,8 @@ TEST_F(RecordsetTest, RowsAddedWhileReadingComeLastAndOnceAndSchemaChangesWait)
     // A statement still being read would lock its table against a schema change: it is read first.
     auto pending = db->OpenRecordset(QStringLiteral("Select * From tblThing Order By ThingID"));
     ASSERT_FALSE(pending->complete());
-    db->executeNative(QStringLiteral("CREATE TABLE tblScratch (ID INTEGER); DROP TABLE tblScratch"));
+    db->executeNative(QStringLiteral("CREATE TABLE tblScratch (ID INTEGER)"));
+    db->executeNative(QStringLiteral("DROP TABLE tblScratch"));
     EXPECT_TRUE(pending->complete());
     pending->MoveLast();
     EXPECT_EQ(pending->RecordCount(), 204);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The schema: every column the program reads or writes by name, keys, the citation view, and the
-// column behaviour (text compares without case, numeric text becomes a number).
+// column behaviour (text compares without case, numeric text becomes a number, other text is refused).
 #include "SchemaDb.h"
 #include "VbError.h"
 
@@ -223,6 +223,38 @@ TEST(Schema, TextIgnoresCaseAndNumbersConvertFromText)
     EXPECT_EQ(scalar(db.get(), "SELECT typeof(Wet_Proportion) || ' ' || Wet_Proportion FROM tblDietItem"), "real 0.25");
     EXPECT_EQ(scalar(db.get(), "SELECT typeof(DietID) || ' ' || typeof(AEID) FROM tblDietItem"), "integer integer");
     EXPECT_EQ(scalar(db.get(), "SELECT count(*) FROM tblDietItem WHERE Wet_Proportion = 0.25 AND DietID = 12"), "1");
+}
+
+// Every id and number column takes a number or numeric text and refuses anything else, whichever
+// way the value comes: typed into a statement, bound, or computed.
+TEST(Schema, NumberColumnsRefuseWhatIsNotANumber)
+{
+    const Db db = memoryDbWithSchema();
+    const char *refused[] = {"'1,5'", "'say \"hi\"'", "'\xF0\x9F\x98\x80'", "'1e309'", "1e309", "-1e309", "''",
+                             "x'3132'", "'12 kg'", "'0x1A'"};
+    for (const char *value : refused) {
+        for (const char *column : {"FamilyID", "Description"}) {
+            const std::string sql = std::string("INSERT INTO tblGenus (Name, ") + column + ") VALUES ('g', " + value + ")";
+            const int rc = sqlite3_exec(db.get(), sql.c_str(), nullptr, nullptr, nullptr);
+            // Description is text and takes anything; FamilyID refuses by its check.
+            if (column[0] == 'F')
+                EXPECT_EQ(sqlite3_extended_errcode(db.get()), SQLITE_CONSTRAINT_CHECK) << sql;
+            else
+                EXPECT_EQ(rc, SQLITE_OK) << sql;
+        }
+    }
+    exec(db.get(), "DELETE FROM tblGenus");
+    // Ten thousand digits read as a number beyond any double: an infinity, refused like 1e309.
+    const std::string long10k = "INSERT INTO tblWeight (Mean) VALUES ('" + std::string(10000, '9') + "')";
+    EXPECT_NE(sqlite3_exec(db.get(), long10k.c_str(), nullptr, nullptr, nullptr), SQLITE_OK);
+    exec(db.get(), "INSERT INTO tblWeight (Mean) VALUES (1)");
+    EXPECT_NE(sqlite3_exec(db.get(), "INSERT INTO tblDataSource (IsLocked) VALUES ('yes')", nullptr, nullptr, nullptr),
+              SQLITE_OK);
+    EXPECT_NE(sqlite3_exec(db.get(), "UPDATE tblWeight SET Mean = Mean || 'x'", nullptr, nullptr, nullptr), SQLITE_OK);
+
+    exec(db.get(), "INSERT INTO tblGenus (FamilyID) VALUES (' 12 '), ('-3.5'), (7), (NULL), ('1e3'), (2.5)");
+    EXPECT_EQ(scalar(db.get(), "SELECT group_concat(typeof(FamilyID) || ':' || coalesce(FamilyID, ''), ' ') FROM tblGenus"),
+              "integer:12 real:-3.5 integer:7 null: integer:1000 real:2.5");
 }
 
 TEST(Schema, DefaultsOfNewRows)

@@ -90,3 +90,10 @@ void input(QWidget *w, const QVariant &value);
 void pick(QWidget *w, const QString &text);
 void pick(QWidget *w, int index);
 }  // namespace ControlValue
+
+//! Registers the adapter of a kind of control from a static object in the file that defines it:
+//!   static const ControlAdapterRegistration<TreeAdapter> reg;
+template <typename A>
+struct ControlAdapterRegistration {
+    ControlAdapterRegistration() { ControlValue::registerAdapter(std::make_unique<A>()); }
+};

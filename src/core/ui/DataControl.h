@@ -154,9 +154,9 @@ private:
 struct GridColumn {
     QString field;
     //! The head's caption; empty keeps the field name.
-    QString caption;
+    QString caption = {};
     //! A Format pattern for the cells; empty for none.
-    QString pattern;
+    QString pattern = {};
     bool hidden = false;
     //! The width in average characters; 0 fits the contents.
     int width = 0;

@@ -46,6 +46,10 @@ QWidget *FormBuilder::add(QWidget *widget, const QString &name, const QString &c
 {
     if (!name.isEmpty())
         widget->setObjectName(name);
+    if (m_buddyOfFirst) {
+        m_buddyOfFirst->setBuddy(widget);
+        m_buddyOfFirst = nullptr;
+    }
     if (m_grid) {
         if (caption.isEmpty()) {
             // A control without a caption takes a row of its own across the grid.
@@ -55,6 +59,7 @@ QWidget *FormBuilder::add(QWidget *widget, const QString &name, const QString &c
             auto *lbl = new QLabel(caption, m_container);
             lbl->setObjectName(QStringLiteral("lbl_") + name);
             lbl->setBuddy(widget);
+            m_lastLabel = lbl;
             placeInGrid(lbl, widget);
         }
         return widget;
@@ -66,6 +71,7 @@ QWidget *FormBuilder::add(QWidget *widget, const QString &name, const QString &c
         auto *lbl = new QLabel(caption, m_container);
         lbl->setObjectName(QStringLiteral("lbl_") + name);
         lbl->setBuddy(widget);
+        m_lastLabel = lbl;
         formRows()->addRow(lbl, widget);
     }
     return widget;
@@ -116,6 +122,16 @@ FormBuilder FormBuilder::column(int stretch)
     m_layout->addWidget(w, stretch);
     FormBuilder b(w);
     b.m_layout->setContentsMargins(0, 0, 0, 0);
+    return b;
+}
+
+FormBuilder FormBuilder::fieldRow(const QString &name, const QString &caption)
+{
+    auto *w = new QWidget(m_container);
+    add(w, name, caption);
+    FormBuilder b(w, true);
+    b.m_layout->setContentsMargins(0, 0, 0, 0);
+    b.m_buddyOfFirst = caption.isEmpty() ? nullptr : m_lastLabel;
     return b;
 }
 

@@ -71,6 +71,11 @@ public:
     void nextRow();
     //! A column of controls beside the others in a row builder; stretch weighs its share of width.
     FormBuilder column(int stretch = 1);
+    //! A row of controls that stands as one field behind a label of caption (a box and its "..."
+    //! button); the label is the buddy of the first control placed in the row.
+    FormBuilder fieldRow(const QString &name, const QString &caption);
+    //! The label made for the last field given a caption, null if none.
+    QLabel *lastLabel() const { return m_lastLabel; }
     //! Any widget, named; with a caption on a label/field row.
     QWidget *add(QWidget *widget, const QString &name, const QString &caption = {});
     //! A control under a label of its own name (labelName) that captions it; stretch > 0 lets the
@@ -96,4 +101,6 @@ private:
     QWidget *m_lastField = nullptr;
     QFormLayout *m_rows = nullptr;
     QGroupBox *m_lastFrame = nullptr;
+    QLabel *m_lastLabel = nullptr;
+    QLabel *m_buddyOfFirst = nullptr;
 };

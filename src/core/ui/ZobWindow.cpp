@@ -111,10 +111,12 @@ bool ZobWindow::eventFilter(QObject *watched, QEvent *e)
 {
     if (e->type() == QEvent::KeyPress && watched != this) {
         auto *ke = static_cast<QKeyEvent *>(e);
+        if (turnPage(ke))
+            return true;
         const int code = vbKeyFromQt(ke->key());
         if (code != 0) {
             m_previewed = e;
-            if (keyDown(code, vbShiftState(ke->modifiers())))
+            if (keyDown(code, vbShiftState(ke->modifiers()), static_cast<QWidget *>(watched)))
                 return true;
         }
     }
@@ -126,8 +128,12 @@ void ZobWindow::keyPressEvent(QKeyEvent *event)
     // A key that a control passed on has been seen already.
     const bool seen = event == m_previewed;
     m_previewed = nullptr;
+    if (turnPage(event)) {
+        event->accept();
+        return;
+    }
     const int code = vbKeyFromQt(event->key());
-    if (!seen && code != 0 && keyDown(code, vbShiftState(event->modifiers()))) {
+    if (!seen && code != 0 && keyDown(code, vbShiftState(event->modifiers()), focusWidget())) {
         event->accept();
         return;
     }
@@ -170,33 +176,47 @@ bool ZobWindow::pressDialogButton(bool accept)
     return false;
 }
 
-bool ZobWindow::turnPage(int code, int shift)
+QTabWidget *ZobWindow::pageStrip(const QKeyEvent *key, int *step) const
 {
     // Ctrl+Tab and Ctrl+PgDn go to the next page of the tab strip around the focus (or the
     // window's first), Ctrl+Shift+Tab and Ctrl+PgUp to the one before.
-    if (!(shift & 2) || (code != 9 && code != 33 && code != 34))
-        return false;
+    if (!(key->modifiers() & Qt::ControlModifier))
+        return nullptr;
+    const bool shift = key->modifiers() & Qt::ShiftModifier;
+    *step = 0;
+    if (key->key() == Qt::Key_Tab)
+        *step = shift ? -1 : 1;
+    else if (key->key() == Qt::Key_Backtab || key->key() == Qt::Key_PageUp)
+        *step = -1;
+    else if (key->key() == Qt::Key_PageDown)
+        *step = 1;
+    if (*step == 0)
+        return nullptr;
     QTabWidget *tabs = nullptr;
     for (QWidget *w = focusWidget(); w && w != this && !tabs; w = w->parentWidget())
         tabs = qobject_cast<QTabWidget *>(w);
     if (!tabs)
         tabs = findChild<QTabWidget *>();
-    if (!tabs || tabs->count() == 0)
+    return tabs && tabs->count() > 0 ? tabs : nullptr;
+}
+
+bool ZobWindow::turnPage(const QKeyEvent *key)
+{
+    int step = 0;
+    QTabWidget *tabs = pageStrip(key, &step);
+    if (!tabs)
         return false;
-    const bool back = code == 33 || (code == 9 && (shift & 1));
-    tabs->setCurrentIndex((tabs->currentIndex() + (back ? tabs->count() - 1 : 1)) % tabs->count());
+    tabs->setCurrentIndex((tabs->currentIndex() + step + tabs->count()) % tabs->count());
     return true;
 }
 
-bool ZobWindow::keyDown(int code, int shift)
+bool ZobWindow::keyDown(int code, int shift, const QWidget *from)
 {
     if (Form_KeyDown(code, shift))
         return true;
-    if (turnPage(code, shift))
-        return true;
     // F1 shows the help of the control that has the focus, as every window of the program does.
     if (code == 112 && m_session.help) {
-        m_session.help->showTopic(helpContext(focusWidget()));
+        m_session.help->showTopic(helpContext(from));
         return true;
     }
     return false;

@@ -11,6 +11,7 @@
 
 class FormBuilder;
 class QPushButton;
+class QTabWidget;
 class QtWindowHost;
 class Session;
 
@@ -95,6 +96,10 @@ public:
     //! it after the load, and again at each showing for controls made later.
     void installKeyPreview();
 
+    //! Turns the pages of the window's tab strip for Ctrl+Tab, Ctrl+Shift+Tab, Ctrl+PgDn and
+    //! Ctrl+PgUp; false (nothing done) for another key or a window without pages.
+    bool turnPage(const QKeyEvent *key);
+
     //! Set by the host while it unloads the window.
     bool unloading() const { return m_unloading; }
     void setUnloading(bool on) { m_unloading = on; }
@@ -123,9 +128,11 @@ protected:
 private:
     Session &m_session;
     QtWindowHost &m_host;
-    bool keyDown(int code, int shift);
+    //! A key down on the window or, first, on one of its controls (from).
+    bool keyDown(int code, int shift, const QWidget *from);
     bool pressDialogButton(bool accept);
-    bool turnPage(int code, int shift);
+    //! The tab strip a page key turns, and the step; null when the key turns none.
+    QTabWidget *pageStrip(const QKeyEvent *key, int *step) const;
 
     bool m_unloading = false;
     const QEvent *m_previewed = nullptr;

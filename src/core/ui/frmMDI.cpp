@@ -13,6 +13,7 @@
 
 #include <QAction>
 #include <QCloseEvent>
+#include <QKeyEvent>
 #include <QCoreApplication>
 #include <QMdiArea>
 #include <QMenuBar>
@@ -160,6 +161,30 @@ void frmMDI::updateProjectItems()
     for (int i : {2, 4, 5})
         if (QAction *a = menuItem(arrayName(QStringLiteral("mnuProjectOptions"), i)))
             a->setEnabled(open);
+}
+
+void frmMDI::showEvent(QShowEvent *event)
+{
+    QMainWindow::showEvent(event);
+    // The window area listens to the application for Ctrl+Tab once it is shown; a filter installed
+    // after it is asked first.
+    if (!m_pageKeys) {
+        m_pageKeys = true;
+        QCoreApplication::instance()->installEventFilter(this);
+    }
+}
+
+bool frmMDI::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::KeyPress && watched->isWidgetType()) {
+        auto *key = static_cast<QKeyEvent *>(event);
+        if ((key->modifiers() & Qt::ControlModifier) && (key->key() == Qt::Key_Tab || key->key() == Qt::Key_Backtab)) {
+            for (QObject *o = watched; o; o = o->parent())
+                if (auto *w = qobject_cast<ZobWindow *>(o))
+                    return w->turnPage(key);
+        }
+    }
+    return QMainWindow::eventFilter(watched, event);
 }
 
 void frmMDI::closeEvent(QCloseEvent *event)

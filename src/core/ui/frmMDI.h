@@ -35,6 +35,10 @@ public:
 protected:
     //! Closing the main window unloads every loaded window in turn; one that refuses keeps it open.
     void closeEvent(QCloseEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+    //! Gives Ctrl+Tab to the window with pages that has the key, before the window area takes it
+    //! to move between windows.
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     void buildMenu();
@@ -47,4 +51,5 @@ private:
     Session &m_session;
     QtWindowHost &m_host;
     QMdiArea *m_mdi;
+    bool m_pageKeys = false;
 };

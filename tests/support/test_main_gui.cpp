@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The runtime tests need widgets: a QApplication, headless unless a platform is given.
+// The main of the tests that need widgets: a QApplication, headless unless a platform is given.
 #include <QApplication>
 #include <gtest/gtest.h>
 
