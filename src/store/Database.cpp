@@ -25,6 +25,7 @@ struct Database::Cache {
     QHash<QByteArray, Prepared> statements;       // SQL text -> its statement
     QHash<sqlite3_stmt *, QByteArray> cachedText; // statement -> its key, for the statements cached
     QList<Recordset *> reading;                   // recordsets with a statement still being read
+    int writeAheadLog = -1;                       // 1 in write-ahead-log mode, 0 not, -1 not asked yet
     QHash<QString, QString> translations;         // Jet SELECT -> its SQLite text
     QHash<QByteArray, std::shared_ptr<const RecordsetShape>> shapes;   // SQLite SELECT -> its result shape
 };
@@ -193,13 +194,44 @@ void Database::raiseLastError(const QString &context) const
     throw VbError(number, text);
 }
 
-//! True for a statement that only reads or writes rows, which SQLite runs beside statements being read.
-static bool isRowStatement(const QString &sql)
+//! What a statement does to the open recordsets of the connection: a write must not meet a read
+//! still going on (the read's snapshot could not become a write when another program has written
+//! since), and a schema change must also forget the result shapes.
+enum class StatementKind { Read, Write, Schema };
+static StatementKind kindOfStatement(const QString &sql)
 {
     const QString head = sql.trimmed().left(7).toUpper();
-    return head.startsWith(QLatin1String("SELECT")) || head.startsWith(QLatin1String("INSERT"))
-        || head.startsWith(QLatin1String("UPDATE")) || head.startsWith(QLatin1String("DELETE"))
-        || head.startsWith(QLatin1String("PRAGMA")) || head.startsWith(QLatin1String("WITH"));
+    if (head.startsWith(QLatin1String("SELECT")) || head.startsWith(QLatin1String("PRAGMA")))
+        return StatementKind::Read;
+    if (head.startsWith(QLatin1String("INSERT")) || head.startsWith(QLatin1String("UPDATE"))
+        || head.startsWith(QLatin1String("DELETE")) || head.startsWith(QLatin1String("WITH")))
+        return StatementKind::Write;
+    return StatementKind::Schema;
+}
+
+bool Database::readsCanWait()
+{
+    if (m_cache->writeAheadLog < 0) {
+        sqlite3_stmt *raw = nullptr;
+        m_cache->writeAheadLog = 0;
+        if (sqlite3_prepare_v2(m_db, "PRAGMA journal_mode", -1, &raw, nullptr) == SQLITE_OK) {
+            const OwnedStatement stmt(raw);
+            m_cache->writeAheadLog = sqlite3_step(raw) == SQLITE_ROW
+                                     && qstricmp(reinterpret_cast<const char *>(sqlite3_column_text(raw, 0)), "wal") == 0;
+        }
+    }
+    return m_cache->writeAheadLog == 1;
+}
+
+void Database::beforeStatement(const QString &sql)
+{
+    if (sql.trimmed().startsWith(QLatin1String("PRAGMA"), Qt::CaseInsensitive))
+        m_cache->writeAheadLog = -1;   // the journal mode may change
+    const StatementKind kind = kindOfStatement(sql);
+    if (kind != StatementKind::Read)
+        finishReading();
+    if (kind == StatementKind::Schema)
+        m_cache->shapes.clear();
 }
 
 void Database::readingStarted(Recordset *rs)
@@ -251,15 +283,13 @@ int Database::runOne(const QByteArray &sql, const QString &context)
 
 void Database::executeNative(const QString &sqliteSql)
 {
-    if (!isRowStatement(sqliteSql))
-        schemaMayChange();
+    beforeStatement(sqliteSql);
     runOne(sqliteSql.toUtf8(), sqliteSql);
 }
 
 int Database::Execute(const QString &jetSql, bool failOnError)
 {
-    if (!isRowStatement(jetSql))
-        schemaMayChange();
+    beforeStatement(jetSql);
     const QString sql = translateJetSql(jetSql);
     const QByteArray utf8 = sql.toUtf8();
     // Without failOnError DAO still raises on a statement it cannot run at all; what it forgives is
@@ -282,6 +312,7 @@ bool Database::shareWithOtherPrograms()
     if (sqlite3_prepare_v2(m_db, "PRAGMA journal_mode=WAL", -1, &raw, nullptr) != SQLITE_OK)
         return false;
     const OwnedStatement stmt(raw);
+    m_cache->writeAheadLog = -1;
     return sqlite3_step(raw) == SQLITE_ROW
            && qstricmp(reinterpret_cast<const char *>(sqlite3_column_text(raw, 0)), "wal") == 0;
 }
@@ -441,11 +472,6 @@ void Database::clearSchemaCache()
     m_cache->shapes.clear();
 }
 
-void Database::schemaMayChange()
-{
-    finishReading();
-    m_cache->shapes.clear();
-}
 
 int Database::prepareCached(const QByteArray &sql, sqlite3_stmt **out)
 {

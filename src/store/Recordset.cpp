@@ -365,6 +365,8 @@ void Recordset::load()
     m_closed = false;
     m_deleted = false;
     m_db->readingStarted(this);
+    if (!m_db->readsCanWait())
+        fetchAll();
     if (!fetchTo(0)) {
         m_pos = -1;
         m_bof = m_eof = true;
@@ -683,6 +685,7 @@ void Recordset::AddNew()
 {
     if (!m_updatable)
         throw notUpdatable();
+    m_db->finishReading();   // no read may still be going on when this connection writes
     m_buffer = QVector<QVariant>(m_columns.size());
     m_dirty = QVector<bool>(m_columns.size(), false);
     // Defaults of the table fill the new row, as the engine shows them before the row is saved.
@@ -742,10 +745,9 @@ void Recordset::Update()
 {
     if (m_editMode == EditMode::None)
         throw VbError(VbErr::UpdateWithoutAddNewOrEdit, QStringLiteral("Update or CancelUpdate without AddNew or Edit."));
-    // A new row joins the end of the rows: the statement's rows are all read first, so that they come
-    // before it and the statement does not hand it back a second time.
-    if (m_editMode == EditMode::Add)
-        fetchAll();
+    // No read may still be going on when this connection writes; a new row then joins the end of the
+    // rows, after all the statement's rows.
+    m_db->finishReading();
     sqlite3 *h = m_db->handle();
     QStringList cols;
     QVector<QVariant> values;
@@ -826,6 +828,7 @@ void Recordset::Delete()
 {
     if (!m_updatable)
         throw notUpdatable();
+    m_db->finishReading();
     if (m_pos < 0 || m_pos >= m_rows.size())
         throw VbError::noCurrentRecord();
     Statement st;

@@ -27,8 +27,9 @@ enum class RecordsetType { Table = 1, Dynaset = 2, Snapshot = 4 };
 
 //! A DAO-style recordset over the result of one statement.
 //!
-//! Rows are read from the statement as the position reaches them (the first row when the recordset
-//! opens), so that opening a large result costs what is looked at; MoveLast, FindLast and a count read
+//! In write-ahead-log mode rows are read from the statement as the position reaches them (the first
+//! row when the recordset opens), so that opening a large result costs what is looked at; under a
+//! rollback journal, where a read would block other programs' writes, every row is read at once; MoveLast, FindLast and a count read
 //! to the end. The current position, BOF/EOF, FindFirst/FindNext with Jet criteria, and RecordCount
 //! "as far as populated" behave as DAO's. A dynaset whose columns all
 //! come from one table with a key can be edited: AddNew (the new autonumber is readable at once),

@@ -246,7 +246,7 @@ void DataControl::bind(QWidget *control, const QString &field)
 namespace {
 //! The items of a combo filled from a statement, read from its recordset a batch at a time as the
 //! list is scrolled (or a value is looked for), so that a list of thousands opens at the cost of one
-//! batch. Items can still be added by hand after the fill.
+//! batch. Items added by hand after the fill come after the rows read so far, before later batches.
 class RecordsetComboModel : public QStandardItemModel {
 public:
     RecordsetComboModel(std::unique_ptr<Recordset> rs, int listColumn, int boundColumn, QObject *parent)
