@@ -117,20 +117,34 @@ struct Figure {
     int statements = 0;
 };
 
-//! The program on a copy of a database, started as main() starts it, for the user "user001".
+//! A program folder holding a private copy of a database.
+class CopiedHome {
+public:
+    explicit CopiedHome(const QString &database)
+    {
+        const QString copy = m_dir.filePath(QStringLiteral("ZOB.sqlite"));
+        m_ok = QFile::copy(database, copy) && QFile::setPermissions(copy, QFile::ReadOwner | QFile::WriteOwner);
+    }
+    bool ok() const { return m_ok; }
+    QString path() const { return m_dir.path(); }
+
+private:
+    QTemporaryDir m_dir;
+    bool m_ok = false;
+};
+
+//! The program on the database of a program folder, started as main() starts it, for "user001".
 class Program {
 public:
-    explicit Program(const QString &database)
+    explicit Program(const QString &home)
     {
-        m_ok = QFile::copy(database, m_dir.filePath(QStringLiteral("ZOB.sqlite")));
-        QFile::setPermissions(m_dir.filePath(QStringLiteral("ZOB.sqlite")), QFile::ReadOwner | QFile::WriteOwner);
         session.messages = &m_messages;
         session.cursor = &m_cursor;
         session.help = &m_help;
         session.windows = &host;
-        session.home = m_dir.path();
+        session.home = home;
         session.userOverride = QStringLiteral("user001");
-        m_ok = m_ok && session.Main();
+        m_ok = session.Main();
         if (!m_ok)
             return;
         session.gDietItem = std::make_shared<clsDietItem>(session);
@@ -185,7 +199,6 @@ public:
     std::unique_ptr<frmMDI> mdi;
 
 private:
-    QTemporaryDir m_dir;
     QuietMessages m_messages;
     NoCursor m_cursor;
     NoHelp m_help;
@@ -195,8 +208,9 @@ private:
 QList<Figure> measureWindows(const QString &database)
 {
     QList<Figure> out;
-    Program p(database);
-    if (!p.ok()) {
+    const CopiedHome home(database);
+    Program p(home.path());
+    if (!home.ok() || !p.ok()) {
         std::fprintf(stderr, "bench_windows: cannot start on %s\n", qPrintable(database));
         return out;
     }
@@ -241,8 +255,9 @@ QList<Figure> measureWindows(const QString &database)
 QList<Figure> measureStore(const QString &database)
 {
     QList<Figure> out;
-    Program p(database);
-    if (!p.ok())
+    const CopiedHome home(database);
+    Program p(home.path());
+    if (!home.ok() || !p.ok())
         return out;
     Session &s = p.session;
     sqlite3 *db = s.gDB->handle();
@@ -290,10 +305,12 @@ void printTable(const char *title, const QList<Figure> &normal, const QList<Figu
         const Figure &a = normal[i];
         const Figure b = i < large.size() ? large[i] : Figure{};
         const char *unit = micro ? "us" : "ms";
-        std::printf("  %-44s | %7.2f%s %7.2f%s %6.2f %5d | %7.2f%s %7.2f%s %6.2f %5d | %6.2f%s\n", qPrintable(a.what), a.appMs,
-                    unit, a.sqlMs, unit, a.sqlMs > 0 ? a.appMs / a.sqlMs : 0.0, a.statements, b.appMs, unit, b.sqlMs, unit,
-                    b.sqlMs > 0 ? b.appMs / b.sqlMs : 0.0, b.statements, a.appMs > 0 ? b.appMs / a.appMs : 0.0,
-                    !micro && b.appMs > 2 * b.sqlMs + 10 ? " over" : "");
+        // A window without statements has no ratio: only the fixed 10 ms applies to it.
+        auto ratio = [](const Figure &f) { return f.statements ? QString::number(f.appMs / f.sqlMs, 'f', 2) : QStringLiteral("-"); };
+        const bool over = micro ? b.appMs > 2 * b.sqlMs : b.appMs > 2 * b.sqlMs + 10;
+        std::printf("  %-44s | %7.2f%s %7.2f%s %6s %5d | %7.2f%s %7.2f%s %6s %5d | %6.2f%s\n", qPrintable(a.what), a.appMs,
+                    unit, a.sqlMs, unit, qPrintable(ratio(a)), a.statements, b.appMs, unit, b.sqlMs, unit,
+                    qPrintable(ratio(b)), b.statements, a.appMs > 0 ? b.appMs / a.appMs : 0.0, over ? " over" : "");
     }
 }
 
@@ -313,9 +330,10 @@ double coldStartMs(const QString &self, const QString &database)
 {
     std::vector<double> times;
     for (int i = 0; i < 5; ++i) {
+        const CopiedHome home(database);   // made before the clock starts
         QProcess child;
         const double t0 = nowMs();
-        child.start(self, {QStringLiteral("--cold"), database});
+        child.start(self, {QStringLiteral("--cold"), home.path()});
         child.waitForFinished(60000);
         const double shown = child.readAllStandardOutput().trimmed().toDouble();
         if (child.exitCode() == 0 && shown > t0)
