@@ -65,7 +65,16 @@ frmProject::frmProject(Session &session, QtWindowHost &host) : ZobWindow(session
         tb->button(QStringLiteral("Print"))->setEnabled(false);
         tb->button(QStringLiteral("Print"))->setToolTip(QStringLiteral("The project summary report is not available yet in this version of the program."));
     }
+    buildProjectFields(b);
+    buildScenarios(b);
+    setHelpContext(m_ssGrdProjectScenarios, 3512);
+    setHelpContext(m_txtScenarioDescription, 3509);
+    resize(820, 640);
+    connectEvents();
+}
 
+void frmProject::buildProjectFields(FormBuilder &b)
+{
     FormBuilder fields = b.frame(QStringLiteral("fraProject"), QStringLiteral("Project")).fields(2);
     m_dcProject = b.hiddenData(QStringLiteral("dcProject"));
     for (const ProjectField &f : kFields) {
@@ -85,7 +94,10 @@ frmProject::frmProject(Session &session, QtWindowHost &host) : ZobWindow(session
             fields.nextRow();
     }
     m_dcProject->bind(m_cboStateProvince, QStringLiteral("StateProvinceID"));
+}
 
+void frmProject::buildScenarios(FormBuilder &b)
+{
     // The project's scenarios with their commands beside them.
     FormBuilder scenarios = b.frame(QStringLiteral("fraScenarios"), QStringLiteral("Scenarios"), true);
     FormBuilder list = scenarios.column();
@@ -106,10 +118,10 @@ frmProject::frmProject(Session &session, QtWindowHost &host) : ZobWindow(session
              {2, "Close", [this] { unloadMe(); }}});
     commands.stretch();
     arrayItem<QWidget>(this, QStringLiteral("cmdScenario"), 4)->setToolTip(QStringLiteral("Contaminant scenarios are not part of this program."));
-    setHelpContext(m_ssGrdProjectScenarios, 3512);
-    setHelpContext(m_txtScenarioDescription, 3509);
-    resize(820, 640);
+}
 
+void frmProject::connectEvents()
+{
     connect(m_ssGrdProjectScenarios, &DataGrid::RowColChange, this, [this](int, int) { scenarioRowChosen(); });
     // Each reading of the scenarios fits the columns to what they now hold.
     connect(m_dcScenario, &DataControl::refreshed, m_ssGrdProjectScenarios, &QTableView::resizeColumnsToContents);

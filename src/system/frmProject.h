@@ -5,6 +5,7 @@
 #include "clsProject.h"
 
 class DataControl;
+class FormBuilder;
 class DataGrid;
 class QComboBox;
 class QPlainTextEdit;
@@ -39,6 +40,9 @@ public:
     void setScenarioSource(const QString &sql) override;
 
 private:
+    void buildProjectFields(FormBuilder &b);
+    void buildScenarios(FormBuilder &b);
+    void connectEvents();
     void saveProject();
     void newWildlifeScenario();
     void scenarioRowMoved();
