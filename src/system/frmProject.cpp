@@ -79,7 +79,7 @@ frmProject::~frmProject() = default;
 
 void frmProject::buildProjectFields(FormBuilder &b)
 {
-    FormBuilder fields = b.frame(QStringLiteral("fraProject"), QStringLiteral("Project")).fields(2);
+    FormBuilder fields = b.frame(QStringLiteral("fraProject"), QStringLiteral("Project")).fields(2, QStringLiteral("fraProjectFields"));
     m_dcProject = b.hiddenData(QStringLiteral("dcProject"));
     for (const ProjectField &f : kFields) {
         const QString caption = QString::fromLatin1(f.caption);
@@ -104,14 +104,14 @@ void frmProject::buildScenarios(FormBuilder &b)
 {
     // The project's scenarios with their commands beside them.
     FormBuilder scenarios = b.frame(QStringLiteral("fraScenarios"), QStringLiteral("Scenarios"), true);
-    FormBuilder list = scenarios.column();
+    FormBuilder list = scenarios.column(1, QStringLiteral("fraScenarioList"));
     m_dcScenario = b.hiddenData(QStringLiteral("dcScenario"));
     m_ssGrdProjectScenarios = list.grid(QStringLiteral("ssGrdProjectScenarios"), m_dcScenario,
         {{"ScenarioID", "Id"}, {"Scenario_Type", "Type"}, {"Scenario_FilePath", "Folder"}, {"Scenario_FileName", "File Name"},
          {"Scenario_LastSaved", "Last Saved"}, {"Scenario_Identifier_1", "Scenario"}});
     m_txtScenarioDescription = list.memo(QStringLiteral("txtScenarioDescription"), QStringLiteral("Scenario Description:"), 3);
     m_txtScenarioDescription->setReadOnly(true);
-    FormBuilder commands = scenarios.column(0);
+    FormBuilder commands = scenarios.column(0, QStringLiteral("fraScenarioCommands"));
     commandButtons(commands, QStringLiteral("cmdScenario"), {
              {3, "Create &Wildlife Scenario", [this] { m_scenarioCommands->newWildlifeScenario(); }},
              {4, "Create Contaminant &Scenario...", {}},  // contaminant scenarios are not part of this program
