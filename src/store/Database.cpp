@@ -354,14 +354,17 @@ Database::Transaction::Transaction(Database &db) : m_db(db)
 {
     if (!sqlite3_get_autocommit(db.m_db))
         return;
+    db.finishReading();   // a read still going on could not become the transaction's write
     db.runOne("BEGIN IMMEDIATE", QStringLiteral("BEGIN"));
     m_active = true;
 }
 
 Database::Transaction::~Transaction()
 {
-    if (m_active)
+    if (m_active) {
+        m_db.finishReading();   // a rollback would cut short the reads begun inside the transaction
         sqlite3_exec(m_db.m_db, "ROLLBACK", nullptr, nullptr, nullptr);
+    }
 }
 
 void Database::Transaction::commit()
