@@ -24,3 +24,16 @@ for (const [window, menu, table, key] of members) {
     shot(w, 'picker-' + window + '-assign');
     w.close();
 }
+// The classification picker with life stage and component, its text search, and the reference pickers.
+pickers.open('frmSelect_Classification', { recordId: id, table: 'tblDietItem', keyField: 'DietItemID', collection: true });
+shot(ui.window('frmSelect_Classification'), 'picker-frmSelect_Classification');
+ui.window('frmSelect_Classification').control('cmdSrchClassification').click();
+shot(ui.window('frmFind_Classification'), 'picker-frmFind_Classification');
+ui.window('frmFind_Classification').close();
+ui.window('frmSelect_Classification').close();
+ui.menu('mnuReferences').trigger();
+shot(ui.window('frmSelect_Reference'), 'picker-frmSelect_Reference');
+ui.window('frmSelect_Reference').close();
+pickers.open('frmReferenceSpecies', { recordId: 1, mode: 'Write' });
+shot(ui.window('frmReferenceSpecies'), 'picker-frmReferenceSpecies');
+ui.window('frmReferenceSpecies').close();

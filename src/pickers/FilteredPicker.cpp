@@ -98,6 +98,12 @@ void FilteredPicker::setRecord(const RecordRequest &request)
     m_pending = true;
 }
 
+void FilteredPicker::showEvent(QShowEvent *event)
+{
+    ZobWindow::showEvent(event);
+    Form_Activate();
+}
+
 void FilteredPicker::Form_Activate()
 {
     if (!m_pending && m_dc->recordset())

@@ -63,6 +63,12 @@ public:
     void setRecord(const RecordRequest &request) override;
     void Form_Activate() override;
 
+protected:
+    //! The request is served at the first showing, whether or not the window manager activates the window.
+    void showEvent(QShowEvent *event) override;
+
+public:
+
     //! The classification column of filter level 1 (kingdom) to 6 (family); empty for 0 (no filter).
     static QString levelColumn(int level);
     //! The order clause of a sort text: the life stage and component columns by their tables.

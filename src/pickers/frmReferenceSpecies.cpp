@@ -101,6 +101,12 @@ void frmReferenceSpecies::setRecord(const RecordRequest &request)
     m_pending = true;
 }
 
+void frmReferenceSpecies::showEvent(QShowEvent *event)
+{
+    ZobWindow::showEvent(event);
+    Form_Activate();
+}
+
 void frmReferenceSpecies::Form_Activate()
 {
     if (!m_pending)

@@ -27,6 +27,12 @@ public:
     void setRecord(const RecordRequest &request) override;
     void Form_Activate() override;
 
+protected:
+    //! The request is served at the first showing, whether or not the window manager activates the window.
+    void showEvent(QShowEvent *event) override;
+
+public:
+
     static AssignmentNames names();
     //! The other side's rows not linked to the main record id, by their shown field.
     static QString availableStatement(const AssignmentNames &n, qint32 id);

@@ -69,6 +69,12 @@ void frmSelect_Classification::setRecord(const RecordRequest &request)
     m_pending = true;
 }
 
+void frmSelect_Classification::showEvent(QShowEvent *event)
+{
+    ZobWindow::showEvent(event);
+    Form_Activate();
+}
+
 void frmSelect_Classification::Form_Activate()
 {
     if (!m_pending)

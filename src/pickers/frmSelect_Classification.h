@@ -21,6 +21,12 @@ public:
     void setRecord(const RecordRequest &request) override;
     void Form_Activate() override;
 
+protected:
+    //! The request is served at the first showing, whether or not the window manager activates the window.
+    void showEvent(QShowEvent *event) override;
+
+public:
+
     //! Shows the caller's classification.
     void LoadData();
     //! Empties the combo of level (0 to 5) and every one below; 0 also empties life stage and component.

@@ -100,6 +100,12 @@ void frmSelect_Reference::setRecord(const RecordRequest &request)
     m_pending = true;
 }
 
+void frmSelect_Reference::showEvent(QShowEvent *event)
+{
+    ZobWindow::showEvent(event);
+    Form_Activate();
+}
+
 void frmSelect_Reference::Form_Activate()
 {
     if (!m_pending)

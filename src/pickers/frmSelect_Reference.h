@@ -20,6 +20,12 @@ public:
     void setRecord(const RecordRequest &request) override;
     void Form_Activate() override;
 
+protected:
+    //! The request is served at the first showing, whether or not the window manager activates the window.
+    void showEvent(QShowEvent *event) override;
+
+public:
+
     //! The list of every reference with its text, without an order.
     static QString listStatement();
     //! The references whose first author's name holds text, by author.
