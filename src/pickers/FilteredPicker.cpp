@@ -23,7 +23,7 @@ const char *const kLevelCaptions[] = {"No filter", "Kingdom", "Subkingdom", "Phy
 }  // namespace
 
 FilteredPicker::FilteredPicker(Session &session, QtWindowHost &host, const QString &name, PickerProfile profile)
-    : ZobWindow(session, host, name), m_profile(std::move(profile))
+    : RequestWindow(session, host, name), m_profile(std::move(profile))
 {
     setCaption(m_profile.caption);
     HelpContextID = m_profile.helpContext;
@@ -92,23 +92,8 @@ FormBuilder FilteredPicker::assignFrame()
     return f;
 }
 
-void FilteredPicker::setRecord(const RecordRequest &request)
+void FilteredPicker::serveRequest()
 {
-    ZobWindow::setRecord(request);
-    m_pending = true;
-}
-
-void FilteredPicker::showEvent(QShowEvent *event)
-{
-    ZobWindow::showEvent(event);
-    Form_Activate();
-}
-
-void FilteredPicker::Form_Activate()
-{
-    if (!m_pending && m_dc->recordset())
-        return;
-    m_pending = false;
     const bool assigning = recordRequest().filter;
     m_fraFilter->setVisible(assigning);
     if (m_fraAssigned)

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "DataControl.h"
-#include "ZobWindow.h"
+#include "RequestWindow.h"
 
 #include <QList>
 #include <QString>
@@ -54,20 +54,12 @@ struct PickerProfile {
 //! a typed value, into the caller's row and tells the diet item window. The request (setRecord) gives
 //! the caller's table, key, record id, mode and the row it holds now; its filter flag says that the
 //! picker assigns (a modal dialog with the filter frame and Select) rather than browses.
-class FilteredPicker : public ZobWindow {
+class FilteredPicker : public RequestWindow {
     Q_OBJECT
 public:
     FilteredPicker(Session &session, QtWindowHost &host, const QString &name, PickerProfile profile);
 
     //! Stores the request; the list is read when the window is next shown.
-    void setRecord(const RecordRequest &request) override;
-    void Form_Activate() override;
-
-protected:
-    //! The request is served at the first showing, whether or not the window manager activates the window.
-    void showEvent(QShowEvent *event) override;
-
-public:
 
     //! The classification column of filter level 1 (kingdom) to 6 (family); empty for 0 (no filter).
     static QString levelColumn(int level);
@@ -87,6 +79,9 @@ protected:
     FormBuilder assignFrame();
     //! The value the user typed, 0 when none; members with a typed value override it.
     virtual float typedValue() const { return 0; }
+
+protected:
+    void serveRequest() override;
 
 private:
     void buildList(FormBuilder &b);
@@ -110,5 +105,4 @@ private:
     QList<QRadioButton *> m_optFilter;
     QLineEdit *m_txtClassification = nullptr;
     QLineEdit *m_txtReferences = nullptr;
-    bool m_pending = false;
 };

@@ -23,7 +23,7 @@ const WindowRegistration<frmReferenceSpecies> reg(QStringLiteral("frmReferenceSp
 }  // namespace
 
 frmReferenceSpecies::frmReferenceSpecies(Session &session, QtWindowHost &host)
-    : ZobWindow(session, host, QStringLiteral("frmReferenceSpecies"))
+    : RequestWindow(session, host, QStringLiteral("frmReferenceSpecies"))
 {
     setCaption(QStringLiteral("Reference"));
     HelpContextID = 2575;
@@ -95,23 +95,8 @@ QString frmReferenceSpecies::assignedStatement(qint32 speciesId)
         .arg(speciesId);
 }
 
-void frmReferenceSpecies::setRecord(const RecordRequest &request)
+void frmReferenceSpecies::serveRequest()
 {
-    ZobWindow::setRecord(request);
-    m_pending = true;
-}
-
-void frmReferenceSpecies::showEvent(QShowEvent *event)
-{
-    ZobWindow::showEvent(event);
-    Form_Activate();
-}
-
-void frmReferenceSpecies::Form_Activate()
-{
-    if (!m_pending)
-        return;
-    m_pending = false;
     guarded(session(), {ErrForm::Shared, QStringLiteral("frmReferenceSpecies.Form_Load")}, [this] {
         fillHeader();
         loadLists();

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "ZobWindow.h"
+#include "RequestWindow.h"
 
 class DataControl;
 class DataGrid;
@@ -19,19 +19,11 @@ struct AssignmentNames {
 
 //! Moves references between the list of those available and the list of those assigned to one species
 //! (the request's record id), showing which general texts each assigned reference supports.
-class frmReferenceSpecies : public ZobWindow {
+class frmReferenceSpecies : public RequestWindow {
     Q_OBJECT
 public:
     frmReferenceSpecies(Session &session, QtWindowHost &host);
 
-    void setRecord(const RecordRequest &request) override;
-    void Form_Activate() override;
-
-protected:
-    //! The request is served at the first showing, whether or not the window manager activates the window.
-    void showEvent(QShowEvent *event) override;
-
-public:
 
     static AssignmentNames names();
     //! The other side's rows not linked to the main record id, by their shown field.
@@ -42,6 +34,9 @@ public:
     //! Reads both lists again.
     void loadLists();
 
+protected:
+    void serveRequest() override;
+
 private:
     void fillHeader();
     void assign();
@@ -51,5 +46,4 @@ private:
     QLineEdit *m_txtInput;
     DataControl *m_dc[2];
     DataGrid *m_grid[2];
-    bool m_pending = false;
 };

@@ -27,7 +27,7 @@ constexpr int kLifestage = 6, kComponent = 7;
 }  // namespace
 
 frmSelect_Classification::frmSelect_Classification(Session &session, QtWindowHost &host)
-    : ZobWindow(session, host, QStringLiteral("frmSelect_Classification"))
+    : RequestWindow(session, host, QStringLiteral("frmSelect_Classification"))
 {
     setCaption(QStringLiteral("Select Classification Assignment"));
     HelpContextID = 46;
@@ -63,23 +63,8 @@ QString frmSelect_Classification::routine(const QString &name) const
     return QStringLiteral("frmSelect_Classification.") + name;
 }
 
-void frmSelect_Classification::setRecord(const RecordRequest &request)
+void frmSelect_Classification::serveRequest()
 {
-    ZobWindow::setRecord(request);
-    m_pending = true;
-}
-
-void frmSelect_Classification::showEvent(QShowEvent *event)
-{
-    ZobWindow::showEvent(event);
-    Form_Activate();
-}
-
-void frmSelect_Classification::Form_Activate()
-{
-    if (!m_pending)
-        return;
-    m_pending = false;
     guarded(session(), {ErrForm::Shared, QStringLiteral("frmSelect_ClassificationLoad")}, [this] { bindLists(); });
     if (recordRequest().recordId >= 1)
         LoadData();

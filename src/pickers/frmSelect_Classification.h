@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "ZobWindow.h"
+#include "RequestWindow.h"
 
 #include <QVariant>
 
@@ -12,25 +12,20 @@ class QGroupBox;
 //! the request asks for it (collection) also gives it a life stage and a component. Choosing a member
 //! at any level fills in its whole ancestry and narrows the level below; Select writes the levels shown
 //! into the caller's row.
-class frmSelect_Classification : public ZobWindow {
+class frmSelect_Classification : public RequestWindow {
     Q_OBJECT
 public:
     frmSelect_Classification(Session &session, QtWindowHost &host);
 
     bool isMdiChild() const override { return false; }
-    void setRecord(const RecordRequest &request) override;
-    void Form_Activate() override;
-
-protected:
-    //! The request is served at the first showing, whether or not the window manager activates the window.
-    void showEvent(QShowEvent *event) override;
-
-public:
 
     //! Shows the caller's classification.
     void LoadData();
     //! Empties the combo of level (0 to 5) and every one below; 0 also empties life stage and component.
     void ClearCombos(int level);
+
+protected:
+    void serveRequest() override;
 
 private:
     void bindLists();
@@ -52,5 +47,4 @@ private:
     QComboBox *m_combos[8];
     QVariant m_tags[8];
     QGroupBox *m_fraCollection = nullptr;
-    bool m_pending = false;
 };

@@ -23,7 +23,7 @@ const WindowRegistration<frmSelect_Reference> reg(QStringLiteral("frmSelect_Refe
 }  // namespace
 
 frmSelect_Reference::frmSelect_Reference(Session &session, QtWindowHost &host)
-    : ZobWindow(session, host, QStringLiteral("frmSelect_Reference"))
+    : RequestWindow(session, host, QStringLiteral("frmSelect_Reference"))
 {
     setCaption(QStringLiteral("Reference"));
     HelpContextID = 2575;
@@ -94,23 +94,8 @@ QString frmSelect_Reference::speciesStatement(qint32 speciesId)
         .arg(speciesId);
 }
 
-void frmSelect_Reference::setRecord(const RecordRequest &request)
+void frmSelect_Reference::serveRequest()
 {
-    ZobWindow::setRecord(request);
-    m_pending = true;
-}
-
-void frmSelect_Reference::showEvent(QShowEvent *event)
-{
-    ZobWindow::showEvent(event);
-    Form_Activate();
-}
-
-void frmSelect_Reference::Form_Activate()
-{
-    if (!m_pending)
-        return;
-    m_pending = false;
     // From the menu there is no row to assign to: the list is for browsing.
     toolbar()->button(QStringLiteral("Select"))->setVisible(!recordRequest().table.isEmpty());
     guarded(session(), {ErrForm::Shared, QStringLiteral("frmSelect_Reference.Form_Load")}, [this] {

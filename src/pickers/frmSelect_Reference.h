@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "ZobWindow.h"
+#include "RequestWindow.h"
 
 class DataControl;
 class DataGrid;
@@ -12,19 +12,11 @@ class QLineEdit;
 //! Finds a literature reference by the first author's name or by the species it is linked to, and
 //! writes the chosen ReferenceID into the caller's row (table, key and record id of the request; the
 //! request's selected id is the reference the row holds now).
-class frmSelect_Reference : public ZobWindow {
+class frmSelect_Reference : public RequestWindow {
     Q_OBJECT
 public:
     frmSelect_Reference(Session &session, QtWindowHost &host);
 
-    void setRecord(const RecordRequest &request) override;
-    void Form_Activate() override;
-
-protected:
-    //! The request is served at the first showing, whether or not the window manager activates the window.
-    void showEvent(QShowEvent *event) override;
-
-public:
 
     //! The list of every reference with its text, without an order.
     static QString listStatement();
@@ -32,6 +24,9 @@ public:
     static QString authorStatement(const QString &text);
     //! The references linked to a species, by author.
     static QString speciesStatement(qint32 speciesId);
+
+protected:
+    void serveRequest() override;
 
 private:
     void bind(const QString &sql);
@@ -44,5 +39,4 @@ private:
     QComboBox *m_cboSpecies;
     DataControl *m_dc;
     DataGrid *m_grid;
-    bool m_pending = true;
 };
