@@ -47,15 +47,8 @@ DietHabitsPage::~DietHabitsPage() = default;
 
 void DietHabitsPage::load(qint32 speciesId)
 {
-    guarded(m_session, {ErrForm::Shared, QStringLiteral("frmLifeHistory.dcFoodHabitsSpecific_Load")}, [&] {
-        m_dc->setDatabase(m_session.gDB);
-        m_dc->setRecordSource(LifeHistorySql::dietStatement(speciesId, m_lifestage->chosen(), m_sex->chosen()));
-        m_dc->Refresh();
-        if (m_dc->rowCount() > 0) {
-            m_dc->MoveLast();
-            m_dc->MoveFirst();
-        }
-    });
+    loadRows(m_session, m_dc, QStringLiteral("frmLifeHistory.dcFoodHabitsSpecific_Load"),
+             [&] { return LifeHistorySql::dietStatement(speciesId, m_lifestage->chosen(), m_sex->chosen()); });
 }
 
 void DietHabitsPage::reposition()

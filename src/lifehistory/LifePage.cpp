@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "LifePage.h"
 
+#include "DataControl.h"
+#include "Diagnostics.h"
 #include "FormBuilder.h"
+#include "Session.h"
 
 #include <QLabel>
 #include <QRadioButton>
@@ -38,4 +41,17 @@ QLabel *emptyNote(FormBuilder &b, const QString &name, const QString &words)
     note->setStyleSheet(QStringLiteral("color: #7a4b00; font-style: italic;"));
     note->setVisible(false);
     return note;
+}
+
+void loadRows(Session &session, DataControl *dc, const QString &routine, const std::function<QString()> &statement)
+{
+    guarded(session, {ErrForm::Shared, routine}, [&] {
+        dc->setDatabase(session.gDB);
+        dc->setRecordSource(statement());
+        dc->Refresh();
+        if (dc->rowCount() > 0) {
+            dc->MoveLast();
+            dc->MoveFirst();
+        }
+    });
 }

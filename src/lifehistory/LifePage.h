@@ -7,6 +7,7 @@
 #include <QStringList>
 #include <functional>
 
+class DataControl;
 class FormBuilder;
 class QLabel;
 class QRadioButton;
@@ -37,6 +38,10 @@ public:
 private:
     QList<QRadioButton *> m_options;
 };
+
+//! Reads a page's rows: the statement into the data control, then to the last row and back to the
+//! first so that the count is known; failures are reported in the shared form under routine.
+void loadRows(Session &session, DataControl *dc, const QString &routine, const std::function<QString()> &statement);
 
 //! A read-only label that says in words that a page has nothing to show; hidden while it has.
 QLabel *emptyNote(FormBuilder &b, const QString &name, const QString &words);

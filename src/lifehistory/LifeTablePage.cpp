@@ -36,20 +36,12 @@ LifeTablePage::~LifeTablePage() = default;
 
 void LifeTablePage::load(qint32 speciesId)
 {
-    guarded(m_session, {ErrForm::Shared, QStringLiteral("frmLifeHistory.") + m_dc->objectName() + QStringLiteral("_Load")},
-            [&] {
-                QList<int> chosen;
-                for (const auto &a : m_arrays)
-                    chosen << a->chosen();
-                m_dc->setDatabase(m_session.gDB);
-                m_dc->setRecordSource(m_statement(speciesId, chosen));
-                m_dc->Refresh();
-                if (m_dc->rowCount() > 0) {
-                    m_dc->MoveLast();
-                    m_dc->MoveFirst();
-                }
-                m_grid->fitColumns(40, 6);
-            });
+    QList<int> chosen;
+    for (const auto &a : m_arrays)
+        chosen << a->chosen();
+    loadRows(m_session, m_dc, QStringLiteral("frmLifeHistory.") + m_dc->objectName() + QStringLiteral("_Load"),
+             [&] { return m_statement(speciesId, chosen); });
+    m_grid->fitColumns(40, 6);
 }
 
 void LifeTablePage::reposition()

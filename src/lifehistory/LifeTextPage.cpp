@@ -42,17 +42,10 @@ LifeTextPage::~LifeTextPage() = default;
 
 void LifeTextPage::load(qint32 speciesId)
 {
-    guarded(m_session, {ErrForm::Shared, QStringLiteral("frmLifeHistory.") + m_dc->objectName() + QStringLiteral("_Load")},
-            [&] {
-                const int option = m_options ? m_options->chosen() : 0;
-                m_dc->setDatabase(m_session.gDB);
-                m_dc->setRecordSource(LifeHistorySql::textStatement(speciesId, LifeHistorySql::topicClause(m_optionArray, option)));
-                m_dc->Refresh();
-                if (m_dc->rowCount() > 0) {
-                    m_dc->MoveLast();
-                    m_dc->MoveFirst();
-                }
-            });
+    const int option = m_options ? m_options->chosen() : 0;
+    loadRows(m_session, m_dc, QStringLiteral("frmLifeHistory.") + m_dc->objectName() + QStringLiteral("_Load"), [&] {
+        return LifeHistorySql::textStatement(speciesId, LifeHistorySql::topicClause(m_optionArray, option));
+    });
 }
 
 void LifeTextPage::reposition()
