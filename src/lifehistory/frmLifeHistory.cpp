@@ -121,7 +121,13 @@ void frmLifeHistory::showHead()
         return;
     }
     const qint32 id = speciesId();
-    m_txtDisplay->setText(m_dcSpecies->value(row, QStringLiteral("Common")).toString() + QLatin1Char(' ')
+    const QString common = m_dcSpecies->value(row, QStringLiteral("Common")).toString();
+    // A species deleted since the search has no classification to read: say so instead.
+    if (session().Lookup(QStringLiteral("tblSpecies"), QStringLiteral("SpeciesID"), QStringLiteral("SpeciesID = %1").arg(id)).toInt() != id) {
+        m_txtDisplay->setText(common + QStringLiteral(": this species is no longer in the database."));
+        return;
+    }
+    m_txtDisplay->setText(common + QLatin1Char(' ')
                           + GetClassificationText(session(), id, QStringLiteral("tblSpecies"), QStringLiteral("SpeciesID")));
 }
 

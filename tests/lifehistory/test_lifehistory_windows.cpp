@@ -145,6 +145,13 @@ TEST_F(LifeHistoryWindows, WalkingMovesTheSearchAndATopicWithoutRowsSaysSo)
     EXPECT_EQ(text(again, QStringLiteral("txtGeneralOrder(0)")), QString());
     EXPECT_EQ(text(again, QStringLiteral("dcMainGeneral")), QStringLiteral(" of 0"));
     EXPECT_TRUE(again->control<QLabel>(QStringLiteral("lblNoTextMainGeneral"))->isVisibleTo(again));
+
+    // The species deleted while shown: the head says so, the pages are empty, and nothing is reported.
+    ts->gDB->Execute(QStringLiteral("Delete From tblSpecies Where SpeciesID = 880001"));
+    again->PuS_SetTab(4);
+    again->PuS_SetTab(0);
+    EXPECT_EQ(text(again, QStringLiteral("txtDisplay")), QStringLiteral("Aaa test bird: this species is no longer in the database."));
+    EXPECT_TRUE(ts.messages.shown.isEmpty());
 }
 
 TEST_F(LifeHistoryWindows, BrowsingEveryPageAndOptionWritesNothing)
