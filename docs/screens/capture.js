@@ -1,6 +1,8 @@
 // Pictures of the project and system windows, written into the program folder (--home) under "screens".
-// Run it once at normal size and once with QT_SCALE_FACTOR=1.5 and suffix "-150":
-//   QT_QPA_PLATFORM=offscreen zobrel --home DIR --user ann --script docs/screens/capture.js --quit-after-script
+// Run it on a full-size virtual screen, once at normal size and once with QT_SCALE_FACTOR=1.5 and
+// the suffix "-150" (a first line `const SCREEN_SUFFIX = '-150';` put before this script):
+//   xvfb-run -a -s "-screen 0 1920x1080x24" zobrel --home DIR --user ann --script capture.js --quit-after-script
+// (the offscreen platform's small screen squeezes the windows at 1.5).
 const suffix = (typeof SCREEN_SUFFIX === 'string') ? SCREEN_SUFFIX : '';
 const shot = (w, name) => w.grab(session.home + '/' + name + suffix + '.png');
 const setup = ui.window('frmSetup');

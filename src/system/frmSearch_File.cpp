@@ -32,7 +32,7 @@ frmSearch_File::frmSearch_File(Session &session, QtWindowHost &host)
     FormBuilder b(this);
 
     // Three columns as the classic chooser has them: file name and files, folders and drives, buttons.
-    FormBuilder chooser = b.row(1);
+    FormBuilder chooser = b.row(1, QStringLiteral("fraChooser"));
     FormBuilder files = chooser.column(3);
     m_txtSelectedFile = static_cast<QLineEdit *>(files.above(new QLineEdit(files.container()), QStringLiteral("txtSelectedFile"),
                                                              QStringLiteral("lblFilename"), QStringLiteral("Filename:")));
@@ -59,7 +59,11 @@ frmSearch_File::frmSearch_File(Session &session, QtWindowHost &host)
     // The description is read only: a panel that keeps the marker file's lines as they were read.
     m_txtInfo = b.panel(QStringLiteral("txtInfo"), QStringLiteral("File Description:"), 4);
     resize(640, 460);
+    connectEvents(ok, close, help);
+}
 
+void frmSearch_File::connectEvents(QPushButton *ok, QPushButton *close, QPushButton *help)
+{
     connect(ok, &QPushButton::clicked, this, [this] { cmdControl_Click(0); });
     connect(close, &QPushButton::clicked, this, [this] { cmdControl_Click(1); });
     connect(help, &QPushButton::clicked, this, [this] {

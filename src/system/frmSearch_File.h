@@ -52,6 +52,7 @@ signals:
 
 private:
     //! Takes the chosen name (Open) or the typed name with the type as extension (Save).
+    void connectEvents(QPushButton *ok, QPushButton *close, QPushButton *help);
     void GetSelection();
     void cmdControl_Click(int index);
     void showFolder(const QString &folder);

@@ -12,13 +12,13 @@ class QMenuBar;
 //! submenu with rows of its own. An item whose command needs a window that is not part of this
 //! version of the program is disabled and says so in its tool tip and status tip.
 struct MenuEntry {
-    QString name;
-    QString caption;
-    std::function<void()> command;
+    QString name = {};
+    QString caption = {};
+    std::function<void()> command = {};
     //! The window the command shows; empty when it needs none.
-    QString window;
+    QString window = {};
     //! Rows of a submenu; the entry is then the submenu's title.
-    QList<MenuEntry> submenu;
+    QList<MenuEntry> submenu = {};
     bool separator = false;
 
     static MenuEntry separatorNamed(const QString &name) { return {name, {}, {}, {}, {}, true}; }

@@ -63,7 +63,9 @@ void manageMainWindow(QMainWindow *window, const QSize &usual)
 
 void fitInside(QWidget *frame, const QWidget *area)
 {
-    const QRect r = fitted(frame->geometry(), area->rect());
+    // Never smaller than its contents need: a window squeezed below that overlaps its own controls.
+    QRect r = fitted(frame->geometry(), area->rect());
+    r.setSize(r.size().expandedTo(frame->minimumSizeHint()));
     if (r != frame->geometry())
         frame->setGeometry(r);
 }

@@ -13,10 +13,10 @@ class QAction;
 //! not drawn (for windows whose button numbers have gaps).
 struct ToolButton {
     enum class Kind { Button, Separator, Spare };
-    QString key;
-    QString tip;
-    QString caption;
-    std::function<void()> handler;
+    QString key = {};
+    QString tip = {};
+    QString caption = {};
+    std::function<void()> handler = {};
     Kind kind = Kind::Button;
 
     static ToolButton separator() { return {{}, {}, {}, {}, Kind::Separator}; }
