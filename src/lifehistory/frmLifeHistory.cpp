@@ -91,6 +91,15 @@ void frmLifeHistory::Form_Load()
     m_dcSpecies->setDatabase(session().gDB);
 }
 
+bool frmLifeHistory::Form_KeyDown(int keyCode, int shift)
+{
+    Q_UNUSED(shift);
+    if (keyCode != 27)
+        return false;
+    unloadMe();
+    return true;
+}
+
 qint32 frmLifeHistory::speciesId() const
 {
     const int row = m_dcSpecies->currentRow();

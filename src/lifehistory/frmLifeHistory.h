@@ -21,6 +21,8 @@ public:
 
     bool isMdiChild() const override { return false; }
     void Form_Load() override;
+    //! Escape closes the browser.
+    bool Form_KeyDown(int keyCode, int shift) override;
 
     //! Selects the outer page index.
     void PuS_SetTab(int index);

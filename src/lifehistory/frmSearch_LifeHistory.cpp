@@ -70,6 +70,13 @@ frmSearch_LifeHistory::frmSearch_LifeHistory(Session &session, QtWindowHost &hos
     links.stretch();
     resize(820, 560);
     connect(m_grid, &DataGrid::DblClick, this, [this] { openBrowser(0); });
+    // Enter on a species reads its life history, as a double click does.
+    connect(ControlEvents::of(m_grid), &ControlEvents::KeyDown, this, [this](int &keyCode, int) {
+        if (keyCode == 13) {
+            keyCode = 0;
+            openBrowser(0);
+        }
+    });
 }
 
 void frmSearch_LifeHistory::markFocus(QWidget *box)

@@ -65,9 +65,10 @@ test('bad input gives a message or an empty result, and the search goes on worki
     }
     expect(texts()).toEqual(['No records found.', 'No records found.']);
     expect(searchWith({'txtSearch(0)': '*'}).length).toBe(db.query('Select * From tblSpecies').length);
-    search().control('LblGenInfo(0)').click();
-    expect(ui.window('frmLifeHistory')).toBeTruthy();
-    ui.window('frmLifeHistory').close();
+    grid().keyDown(13);
+    expect(ui.window('frmLifeHistory').control('ssTabLifeHistory').currentTab).toBe(0);
+    ui.window('frmLifeHistory').keyDown(27);
+    expect(ui.window('frmLifeHistory')).toBeNull();
 });
 
 test('the pages of a well-documented species, with references numbered as the list beneath', () => {
