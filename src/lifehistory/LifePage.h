@@ -27,7 +27,7 @@ signals:
 };
 
 //! A control array of option buttons name(0..n-1) in a frame of its own, the first one chosen at
-//! start unless another is given; a click on any of them signals the page.
+//! start unless another is given; choosing any of them signals the page.
 class OptionArray {
 public:
     OptionArray(FormBuilder &b, LifePage *page, const QString &name, const QString &frameCaption,
