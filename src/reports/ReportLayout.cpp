@@ -81,7 +81,8 @@ QList<DrawnItem> ReportLayout::wrap(const QString &text, const QFont &font, doub
     for (const QString &paragraph : all.split(QLatin1Char('\n'))) {
         QTextLayout layout(paragraph, font, &metricDevice());
         layout.beginLayout();
-        for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+        int count = 0;
+        for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine(), ++count) {
             line.setLineWidth(w * k);
             const double h = line.height() / k;
             DrawnItem d{QRectF(0, height, w, h), paragraph.mid(line.textStart(), line.textLength()), font, align};
@@ -90,7 +91,7 @@ QList<DrawnItem> ReportLayout::wrap(const QString &text, const QFont &font, doub
             height += h;
         }
         layout.endLayout();
-        if (paragraph.isEmpty())
+        if (count == 0)
             height += QFontMetricsF(font, &metricDevice()).height() / k;
     }
     return out;

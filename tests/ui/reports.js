@@ -94,3 +94,65 @@ test('a long scenario list runs over pages with the heads repeated', () => {
     expect(report.text().indexOf('Great Blue Heron 60')).toBeGreaterThan(0);
     expect(report.exportPdf('long.pdf')).toBeTruthy();
 });
+
+// The intake report of a scenario with air, water, metabolic rate and soil rows, against figures
+// worked by hand from the model's coefficients and the weight as printed (one decimal).
+function intakeScenario(opts) {
+    db.exec("Insert Into tblScenario (Scenario_Type, Scenario_FileName, Scenario_CreatedBy, Scenario_ModifiedBy, Scenario_Identifier_1) "
+            + "Values ('Wildlife', 'mink.ZOB', 'ann', 'bob', 'Mink')");
+    const sid = db.query('Select Max(ScenarioID) As M From tblScenario')[0].M;
+    db.exec("Insert Into tblWildlife (ScenarioID, Common, Weight, WtSex, DietID, DietType) Values (" + sid + ", '"
+            + opts.common.replace(/'/g, "''") + "', " + opts.weight + ", 'F', 0, 0)");
+    const row = (type, base, adjusted, extra) => db.exec(
+        'Insert Into tblIntakeZOB (ScenarioID, IntakeTypeID, BaseRate, AdjustedRate, Units, DataSourceID, EstimatorID, Comments'
+        + (extra ? ', ' + Object.keys(extra).join(', ') : '') + ') Values (' + sid + ', ' + type + ', ' + base + ', ' + adjusted
+        + ", 'unit " + type + "', 3, 1, 'row " + type + "'" + (extra ? ', ' + Object.values(extra).join(', ') : '') + ')');
+    row(1, 0.5, 0.5, {IntakeEquation: "'a*Wt^b'"});
+    row(2, 12.345, 12.345, null);
+    row(3, 0, 123.456, {IntakeModelID: opts.model, Units_CF: 0.239});
+    if (opts.soil)
+        row(4, opts.soil, 0, {SoilIngestionID: 1});
+    session.scenario.SID = sid;
+    session.scenario.DietType = 0;
+    return sid;
+}
+
+test('the intake report: rows, limits of the metabolic rate and soil in g/day', () => {
+    intakeScenario({common: "Mink's kin", weight: 1234.56, model: 8, soil: 9.4});
+    ui.clearMessages();
+    ui.show('ws_intake');
+    const report = ui.window('ws_intake');
+    const text = report.text();
+    const lines = text.split('\n');
+    expect(lines).toContain('Report Type:  INTAKE Printed on: ' + fmt.vbFormat(new Date(), 'Short Date'));
+    expect(text.indexOf("Wildlife Species: Mink's kin")).toBeGreaterThan(0);
+    expect(text.indexOf('Body Weight(g): 1,234.6')).toBeGreaterThan(0);
+    expect(lines).toContain('Water 12.35 unit 2 Estimated Mean 1 row 2 Estimated 12.35');
+    // Hand calculation with the weight as printed.
+    const w = 1234.6, m = db.query('Select * From tblIntakeModel Where IntakeModelID = 8')[0];
+    const base = calc.GetIntakeRate(8, w, 'Base');
+    const h = m.c * Math.sqrt(m.d + m.e * Math.pow(Math.log10(w) - m.Mean_log_X, 2));
+    const l = Math.log10(base / 0.239);
+    expect(lines).toContain('Lower 95% Cl (kcal/day): ' + fmt.vbFormat(Math.pow(10, l - h) * 0.239, '0.00'));
+    expect(lines).toContain('Upper 95% Cl (kcal/day): ' + fmt.vbFormat(Math.pow(10, l + h) * 0.239, '0.00'));
+    expect(lines).toContain('Inhalation: a*Wt^b'.replace(/^/, 'Air Allometric Equation: '));
+    const dd = calc.GetFMR_TDI('TDI');
+    const grams = fmt.vbFormat(Math.fround(dd * Math.fround(0.094)), '0.00');
+    expect(lines).toContain('Soil: ' + grams + ' g/day Calculated Mean 1 Calculated from % Calculated ' + grams);
+    expect(text.indexOf('of dry diet that is\nsoil and total daily\ndiet on a dry-weight\nbasis.')).toBeGreaterThan(0);
+    expect(lines).toContain('Soil: Proportion Dry Diet (f_soil): = % Dry Diet/100 0.094');
+    expect(text.indexOf('95% CI for log_FMR_species_x = log_FMR_speices_x +/- c')).toBeGreaterThan(0);
+    expect(/^Page \d+ of \d+$/.test(lines[lines.length - 1])).toBeTruthy();
+    expect(report.exportPdf('intake.pdf')).toBeTruthy();
+    report.close();
+});
+
+test('the intake report of a scenario without a wildlife row prints its design', () => {
+    db.exec("Insert Into tblScenario (Scenario_Type) Values ('Wildlife')");
+    session.scenario.SID = db.query('Select Max(ScenarioID) As M From tblScenario')[0].M;
+    ui.show('ws_intake');
+    const text = ui.window('ws_intake').text();
+    expect(text.indexOf('Intake Rates')).toBeGreaterThan(0);
+    expect(text.indexOf('Lower 95% Cl (kcal/day):\n')).toBeGreaterThan(0);
+    ui.window('ws_intake').close();
+});
