@@ -156,3 +156,52 @@ test('the intake report of a scenario without a wildlife row prints its design',
     expect(text.indexOf('Lower 95% Cl (kcal/day):\n')).toBeGreaterThan(0);
     ui.window('ws_intake').close();
 });
+
+// The catalogue of the open scenario's reports.
+test('the catalogue lists the titles of the scenario type and sets the print options', () => {
+    const sid = intakeScenario({common: 'Otter', weight: 5000, model: 8});
+    ui.show('frmReports');
+    const w = ui.window('frmReports');
+    expect(w.caption).toBe('Print');
+    const list = w.control('lstReports');
+    expect(list.items).toEqual(['Wildlife Scenario', 'Wildlife Species', 'Wildlife Weight', 'Wildlife Diet',
+                                'Wildlife Intake', 'Wildlife Calculations']);
+    ui.clearMessages();
+    w.toolbar().click(4);
+    expect(ui.messages().map(m => m.text)).toEqual(['Please select a report.']);
+    expect(ui.messages()[0].title).toBe('Print');
+    const enabled = () => [0, 1, 2, 3].map(i => w.control('chkPrintOpt(' + i + ')').enabled);
+    list.select('Wildlife Scenario');
+    expect(enabled()).toEqual([false, false, false, false]);
+    list.select('Wildlife Diet');
+    expect(enabled()).toEqual([true, true, true, true]);
+    list.select('Wildlife Intake');
+    expect(enabled()).toEqual([true, true, true, false]);
+    list.dblClick();
+    expect(ui.windows()).toContain('ws_intake');
+    expect(ui.window('ws_intake').text().indexOf('Wildlife Species: Otter')).toBeGreaterThan(0);
+    ui.window('ws_intake').close();
+    w.close();
+    db.exec("Update tblScenario Set Scenario_Type = 'Contaminant' Where ScenarioID = " + sid);
+    ui.show('frmReports');
+    const c = ui.window('frmReports');
+    expect(c.control('lstReports').items.length).toBe(6);
+    c.control('lstReports').select('Contaminant');
+    ui.clearMessages();
+    c.control('lstReports').dblClick();
+    expect(ui.messages().length).toBe(0);
+    expect(ui.windows().filter(n => n.indexOf('ws_') === 0 || n.indexOf('Contaminant') === 0)).toEqual([]);
+    c.close();
+});
+
+test('without an open scenario the list is empty and any command asks for a scenario', () => {
+    session.scenario.SID = 0;
+    ui.show('frmReports');
+    const w = ui.window('frmReports');
+    expect(w.control('lstReports').items).toEqual([]);
+    ui.clearMessages();
+    w.toolbar().click(4);
+    expect(ui.messages().map(m => m.text)).toEqual(['Please select a scenario.']);
+    expect(ui.messages()[0].icon).toBe('warning');
+    w.close();
+});
