@@ -3,6 +3,7 @@
 
 #include "ControlEvents.h"
 #include "ControlValue.h"
+#include "ProjectScenarios.h"
 #include "DataControl.h"
 #include "Diagnostics.h"
 #include "FormBuilder.h"
@@ -24,7 +25,6 @@
 
 namespace {
 const WindowRegistration<frmProject> reg(QStringLiteral("frmProject"));
-const QString kCalculations = QStringLiteral("frmZOBCalculations");
 
 //! The project's boxes txtProject(0..6), their columns, captions and lines (0: a one-line box),
 //! in the order the grid shows them; two boxes share a row where the next says so.
@@ -53,9 +53,9 @@ frmProject::frmProject(Session &session, QtWindowHost &host) : ZobWindow(session
         {"New", "Make a new project", "New", [this] { this->session().gProject->AddNew(); }},
         {"Save", "Save the project", "Save", [this] { saveProject(); }},
         ToolButton::separator(),
-        {"Open", "Open the selected scenario by its file", "Open", [this] { openScenarioFile(); }},
-        {"Select", "Edit the selected scenario", "Edit", [this] { OpenSelectedScenario(); }},
-        {"Calculations", "Review the calculations of the selected scenario", "Calculations", [this] { showCalculations(); }},
+        {"Open", "Open the selected scenario by its file", "Open", [this] { m_scenarioCommands->openScenarioFile(); }},
+        {"Select", "Edit the selected scenario", "Edit", [this] { m_scenarioCommands->OpenSelectedScenario(); }},
+        {"Calculations", "Review the calculations of the selected scenario", "Calculations", [this] { m_scenarioCommands->showCalculations(); }},
         {"Print", "Preview and print the project summary", "Print", [this] { this->host().show(QStringLiteral("ProjectSummary")); }},
         ToolButton::separator(),
         {"Close", "Close the project (it is saved)", "Close", [this] { unloadMe(); }},
@@ -67,15 +67,19 @@ frmProject::frmProject(Session &session, QtWindowHost &host) : ZobWindow(session
     }
     buildProjectFields(b);
     buildScenarios(b);
+    m_scenarioCommands = std::make_unique<ProjectScenarios>(session, host, m_dcScenario, m_txtScenarioDescription,
+                                                            sFileName.right(3));
     setHelpContext(m_ssGrdProjectScenarios, 3512);
     setHelpContext(m_txtScenarioDescription, 3509);
     resize(820, 640);
     connectEvents();
 }
 
+frmProject::~frmProject() = default;
+
 void frmProject::buildProjectFields(FormBuilder &b)
 {
-    FormBuilder fields = b.frame(QStringLiteral("fraProject"), QStringLiteral("Project")).fields(2);
+    FormBuilder fields = b.frame(QStringLiteral("fraProject"), QStringLiteral("Project")).fields(2, QStringLiteral("fraProjectFields"));
     m_dcProject = b.hiddenData(QStringLiteral("dcProject"));
     for (const ProjectField &f : kFields) {
         const QString caption = QString::fromLatin1(f.caption);
@@ -100,21 +104,21 @@ void frmProject::buildScenarios(FormBuilder &b)
 {
     // The project's scenarios with their commands beside them.
     FormBuilder scenarios = b.frame(QStringLiteral("fraScenarios"), QStringLiteral("Scenarios"), true);
-    FormBuilder list = scenarios.column();
+    FormBuilder list = scenarios.column(1, QStringLiteral("fraScenarioList"));
     m_dcScenario = b.hiddenData(QStringLiteral("dcScenario"));
     m_ssGrdProjectScenarios = list.grid(QStringLiteral("ssGrdProjectScenarios"), m_dcScenario,
         {{"ScenarioID", "Id"}, {"Scenario_Type", "Type"}, {"Scenario_FilePath", "Folder"}, {"Scenario_FileName", "File Name"},
          {"Scenario_LastSaved", "Last Saved"}, {"Scenario_Identifier_1", "Scenario"}});
     m_txtScenarioDescription = list.memo(QStringLiteral("txtScenarioDescription"), QStringLiteral("Scenario Description:"), 3);
     m_txtScenarioDescription->setReadOnly(true);
-    FormBuilder commands = scenarios.column(0);
+    FormBuilder commands = scenarios.column(0, QStringLiteral("fraScenarioCommands"));
     commandButtons(commands, QStringLiteral("cmdScenario"), {
-             {3, "Create &Wildlife Scenario", [this] { newWildlifeScenario(); }},
+             {3, "Create &Wildlife Scenario", [this] { m_scenarioCommands->newWildlifeScenario(); }},
              {4, "Create Contaminant &Scenario...", {}},  // contaminant scenarios are not part of this program
-             {6, "&Edit Scenario", [this] { OpenSelectedScenario(); }},
-             {5, "&Calculations", [this] { showCalculations(); }},
-             {0, "&Link Scenario", [this] { linkScenario(true); }},
-             {1, "&Unlink Scenario", [this] { linkScenario(false); }},
+             {6, "&Edit Scenario", [this] { m_scenarioCommands->OpenSelectedScenario(); }},
+             {5, "&Calculations", [this] { m_scenarioCommands->showCalculations(); }},
+             {0, "&Link Scenario", [this] { m_scenarioCommands->linkScenario(true); }},
+             {1, "&Unlink Scenario", [this] { m_scenarioCommands->linkScenario(false); }},
              {2, "Close", [this] { unloadMe(); }}});
     commands.stretch();
     arrayItem<QWidget>(this, QStringLiteral("cmdScenario"), 4)->setToolTip(QStringLiteral("Contaminant scenarios are not part of this program."));
@@ -122,7 +126,7 @@ void frmProject::buildScenarios(FormBuilder &b)
 
 void frmProject::connectEvents()
 {
-    connect(m_ssGrdProjectScenarios, &DataGrid::RowColChange, this, [this](int, int) { scenarioRowChosen(); });
+    connect(m_ssGrdProjectScenarios, &DataGrid::RowColChange, this, [this](int, int) { m_scenarioCommands->scenarioRowChosen(); });
     // Each reading of the scenarios fits the columns to what they now hold.
     connect(m_dcScenario, &DataControl::refreshed, m_ssGrdProjectScenarios, &QTableView::resizeColumnsToContents);
     connect(m_dcScenario, &DataControl::Reposition, this, &frmProject::scenarioRowMoved);
@@ -270,7 +274,7 @@ void frmProject::scenarioRowMoved()
 {
     const int row = m_dcScenario->currentRow();
     if (row >= 0 && !m_dcScenario->value(row, QStringLiteral("Scenario_FileName")).isNull())
-        scenarioRowChosen();
+        m_scenarioCommands->scenarioRowChosen();
 }
 
 void frmProject::scenarioDoubleClicked()
@@ -279,128 +283,7 @@ void frmProject::scenarioDoubleClicked()
         session().msgBox(QStringLiteral("Please select a scenario..."), QString(), MsgIcon::Information);
         return;
     }
-    guarded(session(), {ErrForm::Shared, QStringLiteral("ssGrdProjectScenarios_DblClick")}, [&] { OpenSelectedScenario(); });
-}
-
-void frmProject::newWildlifeScenario()
-{
-    session().setHourglass(true);
-    auto previous = session().gScenario;
-    session().gScenario = std::make_shared<clsScenario>(session());
-    session().gScenario->window = builderLink(host());
-    if (previous)
-        session().gScenario->notes = previous->notes;
-    session().gScenario->AddNew(QStringLiteral("Wildlife"));
-    // Without the builder open, show the new scenario in the list at once.
-    if (!QtWindowHost::isRegistered(QStringLiteral("frmZOB")) && !m_dcScenario->recordSource().isEmpty())
-        m_dcScenario->Refresh();
-}
-
-void frmProject::linkScenario(bool link)
-{
-    clsProject &project = *session().gProject;
-    if (project.PID == 0)
-        return;
-    try {
-        if (link) {
-            auto rs = session().gDB->OpenRecordset(QStringLiteral("jtblProjectScenario"), RecordsetType::Dynaset);
-            // Picking a scenario file in the chooser makes it the current scenario.
-            if (session().fileChooser)
-                session().fileChooser->choose(sFileName.right(3), QStringLiteral("Open"));
-            if (session().gScenario->SID == 0) {
-                session().msgBox(QStringLiteral("Please select a scenario..."), QString(), MsgIcon::Information);
-                return;
-            }
-            rs->AddNew();
-            rs->setField(QStringLiteral("ProjectID"), project.PID);
-            rs->setField(QStringLiteral("ScenarioID"), session().gScenario->SID);
-            rs->Update();
-            rs->Close();
-        } else {
-            session().gDB->Execute(QStringLiteral("Delete * from jtblProjectScenario where projectID = %1 AND ScenarioID= %2")
-                                       .arg(project.PID)
-                                       .arg(session().gScenario->SID));
-        }
-        if (!m_dcScenario->recordSource().isEmpty()) {
-            m_dcScenario->Refresh();
-            // The row now shown is the scenario the next command acts on.
-            if (m_dcScenario->currentRow() >= 0)
-                scenarioRowChosen();
-            else
-                m_txtScenarioDescription->clear();
-        }
-    } catch (const VbError &e) {
-        if (e.number() == VbErr::DuplicateKey) {
-            session().resetCursor();
-            session().msgBox(QStringLiteral("This scenario is already linked to the project. "), QString(), MsgIcon::Warning);
-        } else {
-            handleError(session(), {ErrForm::Shared, QStringLiteral("frmProject.OpenSelectedScenario")}, e.number(),
-                        e.description());
-        }
-    }
-}
-
-void frmProject::scenarioRowChosen()
-{
-    const int row = m_dcScenario->currentRow();
-    if (row < 0)
-        return;
-    guarded(session(), {ErrForm::Shared, QStringLiteral("ssGrdProjectScenarios_RowColChange")}, [&] {
-        const qint32 id = m_dcScenario->value(row, QStringLiteral("ScenarioID")).toInt();
-        session().gScenario->SID = id;
-        session().gScenario->ScenarioType = QStringLiteral("Wildlife");
-        const QVariant text = session().Lookup(QStringLiteral("tblWildlife"), QStringLiteral("ScenarioComments"),
-                                               QStringLiteral("ScenarioID = %1").arg(id));
-        m_txtScenarioDescription->setPlainText(text.toString() + QStringLiteral(" "));
-    });
-}
-
-void frmProject::OpenSelectedScenario()
-{
-    Recordset *rs = m_dcScenario->recordset();
-    if (!rs || (rs->BOF() && rs->EOF_())) {
-        session().msgBox(QStringLiteral("Please select a scenario..."), QString(), MsgIcon::Information);
-        return;
-    }
-    Recordset &row = m_dcScenario->current();
-    clsScenario &scenario = *session().gScenario;
-    scenario.Clear();
-    scenario.SID = row.field(QStringLiteral("ScenarioID")).toInt();
-    scenario.FilePath = row.field(QStringLiteral("Scenario_FilePath")).toString();
-    scenario.FileName = row.field(QStringLiteral("Scenario_FileName")).toString();
-    scenario.Mode = QStringLiteral("Edit");
-    if (scenario.window)
-        scenario.window->showBuilder();
-}
-
-void frmProject::openScenarioFile()
-{
-    Recordset &row = m_dcScenario->current();
-    const qint32 id = row.field(QStringLiteral("ScenarioID")).toInt();
-    const QString path = row.field(QStringLiteral("Scenario_FilePath")).toString();
-    const QString file = row.field(QStringLiteral("Scenario_FileName")).toString();
-    session().gScenario->SID = id;
-    session().gScenario->OpenFile(path, file, false);
-}
-
-void frmProject::showCalculations()
-{
-    clsScenario &scenario = *session().gScenario;
-    if (scenario.ScenarioType.isEmpty()) {
-        session().msgBox(QStringLiteral("Please select a scenario.  "), QString(), MsgIcon::Information);
-        return;
-    }
-    if (scenario.ScenarioType != QLatin1String("Wildlife"))
-        return;
-    scenario.Mode = QStringLiteral("Edit");
-    if (!QtWindowHost::isRegistered(kCalculations)) {
-        session().msgBox(QStringLiteral("The calculation review is not available in this version of the program."), QString(),
-                         MsgIcon::Information);
-        return;
-    }
-    auto *review = host().link<CalculationReview>(kCalculations);
-    if (review && review->ZOBCalculationsValid())
-        host().show(kCalculations, true);
+    guarded(session(), {ErrForm::Shared, QStringLiteral("ssGrdProjectScenarios_DblClick")}, [&] { m_scenarioCommands->OpenSelectedScenario(); });
 }
 
 void frmProject::zoom(int index)

@@ -4,7 +4,10 @@
 #include "ZobWindow.h"
 #include "clsProject.h"
 
+#include <memory>
+
 class DataControl;
+class ProjectScenarios;
 class FormBuilder;
 class DataGrid;
 class QComboBox;
@@ -17,6 +20,7 @@ class frmProject : public ZobWindow, public ProjectWindow {
     Q_OBJECT
 public:
     frmProject(Session &session, QtWindowHost &host);
+    ~frmProject() override;
 
     void Form_Load() override;
     void Form_Activate() override;
@@ -44,14 +48,8 @@ private:
     void buildScenarios(FormBuilder &b);
     void connectEvents();
     void saveProject();
-    void newWildlifeScenario();
     void scenarioRowMoved();
     void scenarioDoubleClicked();
-    void linkScenario(bool link);
-    void OpenSelectedScenario();
-    void showCalculations();
-    void openScenarioFile();
-    void scenarioRowChosen();
     void zoom(int index);
     //! After a save has given a new project its id, binds the window to that row.
     void followProject();
@@ -65,4 +63,5 @@ private:
     QPlainTextEdit *m_txtScenarioDescription;
     QWidget *m_txtProject[7] = {};
     qint32 m_boundPid = -1;
+    std::unique_ptr<ProjectScenarios> m_scenarioCommands;
 };

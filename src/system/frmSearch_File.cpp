@@ -32,7 +32,7 @@ frmSearch_File::frmSearch_File(Session &session, QtWindowHost &host)
     FormBuilder b(this);
 
     // Three columns as the classic chooser has them: file name and files, folders and drives, buttons.
-    FormBuilder chooser = b.row(1);
+    FormBuilder chooser = b.row(1, QStringLiteral("fraChooser"));
     FormBuilder files = chooser.column(3);
     m_txtSelectedFile = static_cast<QLineEdit *>(files.above(new QLineEdit(files.container()), QStringLiteral("txtSelectedFile"),
                                                              QStringLiteral("lblFilename"), QStringLiteral("Filename:")));

@@ -106,18 +106,20 @@ void FormBuilder::nextRow()
     m_lastField = nullptr;
 }
 
-FormBuilder FormBuilder::fields(int pairs)
+FormBuilder FormBuilder::fields(int pairs, const QString &name)
 {
     auto *w = new QWidget(m_container);
+    w->setObjectName(name);
     auto *grid = new QGridLayout(w);
     grid->setContentsMargins(0, 0, 0, 0);
     add(w, QString());
     return FormBuilder(w, grid, pairs);
 }
 
-FormBuilder FormBuilder::column(int stretch)
+FormBuilder FormBuilder::column(int stretch, const QString &name)
 {
     auto *w = new QWidget(m_container);
+    w->setObjectName(name);
     m_rows = nullptr;
     m_layout->addWidget(w, stretch);
     FormBuilder b(w);
@@ -276,9 +278,10 @@ FormBuilder FormBuilder::page(QTabWidget *tabs, const QString &caption, const QS
     return FormBuilder(page);
 }
 
-FormBuilder FormBuilder::row(int stretch)
+FormBuilder FormBuilder::row(int stretch, const QString &name)
 {
     auto *w = new QWidget(m_container);
+    w->setObjectName(name);
     m_rows = nullptr;
     m_layout->addWidget(w, stretch);
     FormBuilder b(w, true);

@@ -63,14 +63,14 @@ public:
     QTabWidget *tabs(const QString &name);
     FormBuilder page(QTabWidget *tabs, const QString &caption, const QString &name = {});
     //! A row of controls side by side; stretch > 0 lets it take that share of the height left.
-    FormBuilder row(int stretch = 0);
+    FormBuilder row(int stretch = 0, const QString &name = {});
     //! A label/field grid with up to pairs label/field pairs side by side on a row. Controls with a
     //! caption made by the returned builder fill it in reading order, each label the buddy of its
     //! field; nextRow() ends a row early (its last field then spans the rest of the row).
-    FormBuilder fields(int pairs = 1);
+    FormBuilder fields(int pairs = 1, const QString &name = {});
     void nextRow();
     //! A column of controls beside the others in a row builder; stretch weighs its share of width.
-    FormBuilder column(int stretch = 1);
+    FormBuilder column(int stretch = 1, const QString &name = {});
     //! A row of controls that stands as one field behind a label of caption (a box and its "..."
     //! button); the label is the buddy of the first control placed in the row.
     FormBuilder fieldRow(const QString &name, const QString &caption);
