@@ -203,5 +203,7 @@ test('without an open scenario the list is empty and any command asks for a scen
     w.toolbar().click(4);
     expect(ui.messages().map(m => m.text)).toEqual(['Please select a scenario.']);
     expect(ui.messages()[0].icon).toBe('warning');
+    w.toolbar().click('Help');
+    expect(ui.helpTopic()).toBe(3601);
     w.close();
 });
