@@ -224,12 +224,15 @@ QVariant Session::Lookup(const QString &table, const QString &field, const QStri
 {
     QVariant result;
     guarded(*this, {ErrForm::Shared, QStringLiteral("Lookup")}, [&] {
-        auto rs = gDB->OpenRecordset(table, RecordsetType::Snapshot);
-        rs->FindFirst(criteria);
-        if (rs->NoMatch()) {
+        // The database finds the row: text columns compare without case, as FindFirst's criteria do.
+        QString sql = QStringLiteral("SELECT [%1] FROM [%2]").arg(field, table);
+        if (!criteria.trimmed().isEmpty())
+            sql += QStringLiteral(" WHERE ") + criteria;
+        auto rs = gDB->OpenRecordset(sql, RecordsetType::Snapshot);
+        if (rs->EOF_()) {
             result = kNotFound;
         } else {
-            const QVariant v = rs->field(field);
+            const QVariant v = rs->field(0);
             result = v.isNull() ? QVariant(kNotFound) : v;
         }
         rs->Close();

@@ -2,6 +2,7 @@
 #include "Database.h"
 
 #include "JetSql.h"
+#include "SqlParameters.h"
 #include "VbError.h"
 
 #include <QFileInfo>
@@ -23,6 +24,10 @@ struct Database::Cache {
     };
     QHash<QByteArray, Prepared> statements;       // SQL text -> its statement
     QHash<sqlite3_stmt *, QByteArray> cachedText; // statement -> its key, for the statements cached
+    QList<Recordset *> reading;                   // recordsets with a statement still being read
+    int writeAheadLog = -1;                       // 1 in write-ahead-log mode, 0 not, -1 not asked yet
+    QHash<QString, QString> translations;         // Jet SELECT -> its SQLite text
+    QHash<QByteArray, std::shared_ptr<const RecordsetShape>> shapes;   // SQLite SELECT -> its result shape
 };
 
 namespace {
@@ -118,6 +123,7 @@ Database::Database(QString path, sqlite3 *db) : m_path(std::move(path)), m_db(db
 
 Database::~Database()
 {
+    finishReading();
     for (const auto &p : std::as_const(m_cache->statements))
         sqlite3_finalize(p.stmt);
     m_cache->statements.clear();
@@ -188,6 +194,72 @@ void Database::raiseLastError(const QString &context) const
     throw VbError(number, text);
 }
 
+//! What a statement does to the open recordsets of the connection: a write must not meet a read
+//! still going on (the read's snapshot could not become a write when another program has written
+//! since), and a schema change must also forget the result shapes.
+enum class StatementKind { Read, Write, Schema };
+static StatementKind kindOfStatement(const QString &sql)
+{
+    const QString head = sql.trimmed().left(7).toUpper();
+    if (head.startsWith(QLatin1String("SELECT")) || head.startsWith(QLatin1String("PRAGMA")))
+        return StatementKind::Read;
+    if (head.startsWith(QLatin1String("INSERT")) || head.startsWith(QLatin1String("UPDATE"))
+        || head.startsWith(QLatin1String("DELETE")) || head.startsWith(QLatin1String("WITH")))
+        return StatementKind::Write;
+    return StatementKind::Schema;
+}
+
+bool Database::readsCanWait()
+{
+    if (m_cache->writeAheadLog < 0) {
+        sqlite3_stmt *raw = nullptr;
+        m_cache->writeAheadLog = 0;
+        if (sqlite3_prepare_v2(m_db, "PRAGMA journal_mode", -1, &raw, nullptr) == SQLITE_OK) {
+            const OwnedStatement stmt(raw);
+            m_cache->writeAheadLog = sqlite3_step(raw) == SQLITE_ROW
+                                     && qstricmp(reinterpret_cast<const char *>(sqlite3_column_text(raw, 0)), "wal") == 0;
+        }
+    }
+    return m_cache->writeAheadLog == 1;
+}
+
+void Database::beforeStatement(const QString &sql)
+{
+    if (sql.trimmed().startsWith(QLatin1String("PRAGMA"), Qt::CaseInsensitive))
+        m_cache->writeAheadLog = -1;   // the journal mode may change
+    const StatementKind kind = kindOfStatement(sql);
+    if (kind != StatementKind::Read)
+        finishReading();
+    if (kind == StatementKind::Schema)
+        m_cache->shapes.clear();
+}
+
+void Database::readingStarted(Recordset *rs)
+{
+    if (!m_cache->reading.contains(rs))
+        m_cache->reading.append(rs);
+}
+
+void Database::readingStopped(Recordset *rs) { m_cache->reading.removeOne(rs); }
+
+std::shared_ptr<const RecordsetShape> Database::shapeOf(const QByteArray &sql) const
+{
+    return m_cache->shapes.value(sql);
+}
+
+void Database::keepShape(const QByteArray &sql, std::shared_ptr<const RecordsetShape> shape)
+{
+    if (m_cache->shapes.size() >= 4 * kStatementCacheLimit)
+        m_cache->shapes.clear();
+    m_cache->shapes.insert(sql, std::move(shape));
+}
+
+void Database::finishReading()
+{
+    while (!m_cache->reading.isEmpty())
+        m_cache->reading.first()->fetchAll();   // each one leaves the list when its statement ends
+}
+
 sqlite3_stmt *Database::prepareOne(const QByteArray &sql, const QString &context)
 {
     sqlite3_stmt *stmt = nullptr;
@@ -211,11 +283,13 @@ int Database::runOne(const QByteArray &sql, const QString &context)
 
 void Database::executeNative(const QString &sqliteSql)
 {
+    beforeStatement(sqliteSql);
     runOne(sqliteSql.toUtf8(), sqliteSql);
 }
 
 int Database::Execute(const QString &jetSql, bool failOnError)
 {
+    beforeStatement(jetSql);
     const QString sql = translateJetSql(jetSql);
     const QByteArray utf8 = sql.toUtf8();
     // Without failOnError DAO still raises on a statement it cannot run at all; what it forgives is
@@ -238,6 +312,7 @@ bool Database::shareWithOtherPrograms()
     if (sqlite3_prepare_v2(m_db, "PRAGMA journal_mode=WAL", -1, &raw, nullptr) != SQLITE_OK)
         return false;
     const OwnedStatement stmt(raw);
+    m_cache->writeAheadLog = -1;
     return sqlite3_step(raw) == SQLITE_ROW
            && qstricmp(reinterpret_cast<const char *>(sqlite3_column_text(raw, 0)), "wal") == 0;
 }
@@ -279,14 +354,17 @@ Database::Transaction::Transaction(Database &db) : m_db(db)
 {
     if (!sqlite3_get_autocommit(db.m_db))
         return;
+    db.finishReading();   // a read still going on could not become the transaction's write
     db.runOne("BEGIN IMMEDIATE", QStringLiteral("BEGIN"));
     m_active = true;
 }
 
 Database::Transaction::~Transaction()
 {
-    if (m_active)
+    if (m_active) {
+        m_db.finishReading();   // a rollback would cut short the reads begun inside the transaction
         sqlite3_exec(m_db.m_db, "ROLLBACK", nullptr, nullptr, nullptr);
+    }
 }
 
 void Database::Transaction::commit()
@@ -301,6 +379,7 @@ std::unique_ptr<Recordset> Database::OpenRecordset(const QString &source, Record
 {
     const QString trimmed = source.trimmed();
     QString sql;
+    SqlParameters params;
     // A bare table name opens the whole table, as DAO does.
     const bool isName = !trimmed.isEmpty() && !trimmed.contains(QLatin1Char(' ')) && !trimmed.contains(QLatin1Char('('));
     if (isName) {
@@ -312,11 +391,34 @@ std::unique_ptr<Recordset> Database::OpenRecordset(const QString &source, Record
                           QStringLiteral("The Microsoft Jet database engine cannot find the input table or query '%1'.").arg(name));
         sql = QStringLiteral("SELECT * FROM \"%1\"").arg(name);
     } else {
-        sql = translateJetSql(trimmed);
+        // Statements that differ only in the numbers they compare share a translation and a
+        // prepared statement; the numbers are bound.
+        params = takeComparedNumbers(trimmed);
+        sql = translated(params.templateText, static_cast<int>(params.values.size()));
+        if (sql.isNull()) {
+            params.values.clear();
+            sql = translated(trimmed, 0);
+        }
     }
     std::unique_ptr<Recordset> rs(new Recordset(this, source, sql, type));
+    rs->m_params = std::move(params.values);
     rs->load();
     return rs;
+}
+
+QString Database::translated(const QString &jetSql, int parameters)
+{
+    // Windows and lookups open the same few statements over and over: each is translated once.
+    auto it = m_cache->translations.constFind(jetSql);
+    if (it != m_cache->translations.constEnd())
+        return it.value();
+    QString sql = translateJetSql(jetSql);
+    if (parameters > 0 && !markersToParameters(sql, parameters))
+        sql = QString();   // the caller translates the statement with its numbers instead
+    if (m_cache->translations.size() >= 4 * kStatementCacheLimit)
+        m_cache->translations.clear();
+    m_cache->translations.insert(jetSql, sql);
+    return sql;
 }
 
 const Database::TableInfo *Database::tableInfo(const QString &table)
@@ -367,7 +469,12 @@ QString Database::columnType(const QString &table, const QString &column)
 
 QStringList Database::columnsOf(const QString &table) { return tableInfo(table)->columns; }
 
-void Database::clearSchemaCache() { m_cache->tables.clear(); }
+void Database::clearSchemaCache()
+{
+    m_cache->tables.clear();
+    m_cache->shapes.clear();
+}
+
 
 int Database::prepareCached(const QByteArray &sql, sqlite3_stmt **out)
 {

@@ -91,6 +91,21 @@ public:
     //! Resets a statement from prepareCached and makes it available again (or finalizes it).
     void releaseCached(sqlite3_stmt *stmt);
 
+    //! Recordsets whose statement is still being read (they read rows as they are reached). Such a
+    //! statement keeps a read of the file going: before any write on this connection, every open
+    //! recordset reads its remaining rows.
+    //! True when a statement may be left half read: in write-ahead-log mode, where a read holds up no
+    //! other program. Under a rollback journal a read blocks every writer, so recordsets read to the end.
+    bool readsCanWait();
+    void readingStarted(Recordset *rs);
+    void readingStopped(Recordset *rs);
+    void finishReading();
+
+    //! The result shape of a statement text as last seen, null when unknown; forgotten on any schema
+    //! change.
+    std::shared_ptr<const RecordsetShape> shapeOf(const QByteArray &sql) const;
+    void keepShape(const QByteArray &sql, std::shared_ptr<const RecordsetShape> shape);
+
     //! Raises the VbError matching SQLite's last error on this connection.
     [[noreturn]] void raiseLastError(const QString &context = {}) const;
 
@@ -98,6 +113,12 @@ private:
     explicit Database(QString path, sqlite3 *db);
     struct TableInfo;
     const TableInfo *tableInfo(const QString &table);
+    //! The SQLite text of a Jet statement whose first `parameters` compared numbers are markers (see
+    //! SqlParameters), cached; null when the markers did not come through.
+    QString translated(const QString &jetSql, int parameters);
+    //! Before a statement that writes: open statements are read to the end (and before one that may
+    //! change the schema, the result shapes are forgotten too).
+    void beforeStatement(const QString &sql);
     //! Prepares the one statement of sql (null for text without a statement); see prepareCached.
     sqlite3_stmt *prepareOne(const QByteArray &sql, const QString &context);
     //! Runs the one statement of sql to its end; the rows it changed.

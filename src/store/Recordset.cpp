@@ -204,50 +204,58 @@ bool hasReadOnlyShape(const QString &sql)
     return depth == 0 && !word.isEmpty() && check(word);
 }
 
-}  // namespace
-
-Recordset::Recordset(Database *db, QString jetSource, QString sqliteSql, RecordsetType type)
-    : m_db(db), m_sourceSql(std::move(jetSource)), m_sql(std::move(sqliteSql)), m_type(type) {}
-
-Recordset::~Recordset() = default;
-
-void Recordset::load()
+//! Where a statement's closing ORDER BY starts (outside parentheses and strings, with no LIMIT after
+//! it), or -1.
+qsizetype closingOrderBy(const QString &sql)
 {
-    sqlite3 *h = m_db->handle();
-    Statement probe;
-    const QByteArray sql = m_sql.toUtf8();
-    if (probe.prepare(m_db, sql.constData()) != SQLITE_OK)
-        m_db->raiseLastError(m_sourceSql);
-    if (sqlite3_column_count(probe.stmt) == 0)
-        throw VbError(VbErr::InvalidArgument, QStringLiteral("Invalid argument: '%1' does not return records.").arg(m_sourceSql));
+    int depth = 0;
+    QChar quote;
+    qsizetype wordStart = -1, orderAt = -1, lastOrder = -1;
+    const qsizetype n = sql.size();
+    for (qsizetype i = 0; i <= n; ++i) {
+        const QChar c = i < n ? sql[i] : QChar(QLatin1Char(' '));
+        if (!quote.isNull()) {
+            if (c == quote)
+                quote = QChar();
+            continue;
+        }
+        if (c.isLetterOrNumber() || c == QLatin1Char('_')) {
+            if (wordStart < 0)
+                wordStart = i;
+            continue;
+        }
+        if (wordStart >= 0 && depth == 0) {
+            const QStringView word = QStringView(sql).mid(wordStart, i - wordStart);
+            if (word.compare(QLatin1String("ORDER"), Qt::CaseInsensitive) == 0)
+                orderAt = wordStart;
+            else if (word.compare(QLatin1String("BY"), Qt::CaseInsensitive) == 0 && orderAt >= 0)
+                lastOrder = orderAt;
+            else if (word.compare(QLatin1String("LIMIT"), Qt::CaseInsensitive) == 0)
+                return -1;
+            if (word.compare(QLatin1String("ORDER"), Qt::CaseInsensitive) != 0)
+                orderAt = -1;
+        }
+        wordStart = -1;
+        if (c == QLatin1Char('\'') || c == QLatin1Char('"') || c == QLatin1Char('['))
+            quote = c == QLatin1Char('[') ? QLatin1Char(']') : c;
+        else if (c == QLatin1Char('('))
+            ++depth;
+        else if (c == QLatin1Char(')'))
+            --depth;
+    }
+    return lastOrder;
+}
 
-    // Decide whether the rows can be written back: every column from one table, a plain single-table
-    // statement, and a dynaset.
-    const int n = sqlite3_column_count(probe.stmt);
+//! What a statement's result looks like: its columns and, when every column comes from one table
+//! and the statement is a plain single-table one, that table (the rows can then be written back).
+RecordsetShape shapeOf(sqlite3_stmt *stmt, const QString &sql)
+{
+    RecordsetShape shape;
+    const int n = sqlite3_column_count(stmt);
     QString table;
     bool oneTable = true;
     for (int i = 0; i < n; ++i) {
-        const char *t = sqlite3_column_table_name(probe.stmt, i);
-        if (!t) {
-            oneTable = false;
-            break;
-        }
-        const QString name = QString::fromUtf8(t);
-        if (table.isEmpty())
-            table = name;
-        else if (name.compare(table, Qt::CaseInsensitive) != 0) {
-            oneTable = false;
-            break;
-        }
-    }
-    m_updatable = m_type != RecordsetType::Snapshot && oneTable && !table.isEmpty() && !hasReadOnlyShape(m_sql);
-
-    QVector<ColumnKind> kinds(n);
-    m_columns.clear();
-    m_originColumns.clear();
-    m_originTables.clear();
-    for (int i = 0; i < n; ++i) {
-        QString name = QString::fromUtf8(sqlite3_column_name(probe.stmt, i));
+        QString name = QString::fromUtf8(sqlite3_column_name(stmt, i));
         // Inside nested joins SQLite marks column names with ":<n>" ("Factor:1"); the engine the
         // program was written for names the column plainly.
         const qsizetype colon = name.lastIndexOf(QLatin1Char(':'));
@@ -258,62 +266,193 @@ void Recordset::load()
             if (digits)
                 name.truncate(colon);
         }
-        m_columns << name;
-        const char *origin = sqlite3_column_origin_name(probe.stmt, i);
-        m_originColumns << (origin ? QString::fromUtf8(origin) : QString());
-        const char *originTable = sqlite3_column_table_name(probe.stmt, i);
-        m_originTables << (originTable ? QString::fromUtf8(originTable) : QString());
-        const char *decl = sqlite3_column_decltype(probe.stmt, i);
-        kinds[i] = kindOf(decl ? QString::fromUtf8(decl) : QString());
+        shape.columns << name;
+        const char *origin = sqlite3_column_origin_name(stmt, i);
+        shape.originColumns << (origin ? QString::fromUtf8(origin) : QString());
+        const char *originTable = sqlite3_column_table_name(stmt, i);
+        const QString tableName = originTable ? QString::fromUtf8(originTable) : QString();
+        shape.originTables << tableName;
+        const char *decl = sqlite3_column_decltype(stmt, i);
+        shape.kinds << static_cast<int>(kindOf(decl ? QString::fromUtf8(decl) : QString()));
+        if (tableName.isEmpty())
+            oneTable = false;
+        else if (table.isEmpty())
+            table = tableName;
+        else if (tableName.compare(table, Qt::CaseInsensitive) != 0)
+            oneTable = false;
     }
+    if (oneTable && !hasReadOnlyShape(sql))
+        shape.table = table;
+    return shape;
+}
 
-    Statement run;
-    sqlite3_stmt *stmt = probe.stmt;
-    int offset = 0;
+}  // namespace
+
+Recordset::Recordset(Database *db, QString jetSource, QString sqliteSql, RecordsetType type)
+    : m_db(db), m_sourceSql(std::move(jetSource)), m_sql(std::move(sqliteSql)), m_type(type) {}
+
+Recordset::~Recordset() { finishReading(); }
+
+void Recordset::load()
+{
+    finishReading();
+    const QByteArray sql = m_sql.toUtf8();
+    std::shared_ptr<const RecordsetShape> shape = m_db->shapeOf(sql);
+    const bool writable = m_type != RecordsetType::Snapshot;
+    // A statement seen before whose rows can be written back goes straight to its keyed form.
+    Statement probe;
+    if (!shape || !writable || shape->table.isEmpty()) {
+        if (probe.prepare(m_db, sql) != SQLITE_OK)
+            m_db->raiseLastError(m_sourceSql);
+        bindParameters(probe.stmt);
+        if (sqlite3_column_count(probe.stmt) == 0)
+            throw VbError(VbErr::InvalidArgument, QStringLiteral("Invalid argument: '%1' does not return records.").arg(m_sourceSql));
+        if (!shape) {
+            auto made = std::make_shared<RecordsetShape>(shapeOf(probe.stmt, m_sql));
+            if (!made->table.isEmpty()) {
+                // The rowid of every row is fetched beside the columns so that edits find their row.
+                QString withKey = m_sql;
+                const qsizetype select = m_sql.indexOf(QLatin1String("SELECT"), 0, Qt::CaseInsensitive);
+                withKey.insert(select + 6, QStringLiteral(" \"%1\".rowid AS %2,").arg(made->table, kRowIdAlias));
+                made->keyedSql = withKey.toUtf8();
+            }
+            shape = made;
+            m_db->keepShape(sql, shape);
+        }
+    }
+    const int n = static_cast<int>(shape->columns.size());
+    m_columns = shape->columns;
+    m_originColumns = shape->originColumns;
+    m_originTables = shape->originTables;
+    m_kinds = shape->kinds;
+    m_updatable = writable && !shape->table.isEmpty();
+    m_keyOffset = 0;
+    m_table.clear();
     if (m_updatable) {
-        m_table = table;
-        m_keyColumn = m_db->primaryKeyOf(table);
+        m_table = shape->table;
+        m_keyColumn = m_db->primaryKeyOf(m_table);
         m_keyIndex = -1;
         for (int i = 0; i < n && !m_keyColumn.isEmpty(); ++i)
             if (m_originColumns[i].compare(m_keyColumn, Qt::CaseInsensitive) == 0)
                 m_keyIndex = i;
-        // The rowid of every row is fetched beside the columns so that edits find their row.
-        const int select = m_sql.indexOf(QLatin1String("SELECT"), 0, Qt::CaseInsensitive);
-        QString withKey = m_sql;
-        withKey.insert(select + 6, QStringLiteral(" \"%1\".rowid AS %2,").arg(table, kRowIdAlias));
-        const QByteArray keyed = withKey.toUtf8();
-        if (run.prepare(m_db, keyed.constData()) == SQLITE_OK) {
-            stmt = run.stmt;
-            offset = 1;
+        if (m_db->prepareCached(shape->keyedSql, &m_stmt) == SQLITE_OK) {
+            m_keyOffset = 1;
+            bindParameters(m_stmt);
         } else {
+            m_db->releaseCached(m_stmt);
+            m_stmt = nullptr;
             m_updatable = false;
             m_table.clear();
+            if (!probe.stmt) {
+                if (probe.prepare(m_db, sql) != SQLITE_OK)
+                    m_db->raiseLastError(m_sourceSql);
+                bindParameters(probe.stmt);
+            }
         }
+    }
+    if (!m_stmt) {
+        // The probe itself is read: it stays out of the cache's hands until the last row.
+        m_stmt = probe.stmt;
+        probe.stmt = nullptr;
+        probe.db = nullptr;
     }
 
     m_rows.clear();
     m_rowKeys.clear();
-    int rc;
-    while ((rc = sqlite3_step(stmt)) == SQLITE_ROW) {
-        QVector<QVariant> row(n);
-        for (int i = 0; i < n; ++i)
-            row[i] = readValue(stmt, i + offset, kinds[i]);
-        m_rows.push_back(std::move(row));
-        if (offset)
-            m_rowKeys.push_back(sqlite3_column_int64(stmt, 0));
-    }
-    if (rc != SQLITE_DONE)
-        m_db->raiseLastError(m_sourceSql);
-
     m_editMode = EditMode::None;
     m_populated = 0;
     m_noMatch = false;
-    if (m_rows.isEmpty()) {
+    m_closed = false;
+    m_deleted = false;
+    m_db->readingStarted(this);
+    if (!m_db->readsCanWait())
+        fetchAll();
+    if (!fetchTo(0)) {
         m_pos = -1;
         m_bof = m_eof = true;
     } else {
         setPosition(0);
     }
+}
+
+void Recordset::bindParameters(sqlite3_stmt *stmt) const
+{
+    for (int i = 0; i < m_params.size(); ++i)
+        bindValue(stmt, i + 1, m_params[i]);
+}
+
+bool Recordset::readRow()
+{
+    if (!m_stmt)
+        return false;
+    const int rc = sqlite3_step(m_stmt);
+    if (rc == SQLITE_DONE) {
+        finishReading();
+        return false;
+    }
+    if (rc != SQLITE_ROW) {
+        finishReading();
+        m_db->raiseLastError(m_sourceSql);
+    }
+    if (m_keyOffset)
+        m_rowKeys.push_back(sqlite3_column_int64(m_stmt, 0));
+    const int n = static_cast<int>(m_columns.size());
+    QVector<QVariant> row(n);
+    for (int i = 0; i < n; ++i)
+        row[i] = readValue(m_stmt, i + m_keyOffset, static_cast<ColumnKind>(m_kinds[i]));
+    m_rows.push_back(std::move(row));
+    return true;
+}
+
+void Recordset::finishReading()
+{
+    if (!m_stmt)
+        return;
+    sqlite3_stmt *stmt = m_stmt;
+    m_stmt = nullptr;
+    m_db->readingStopped(this);
+    m_db->releaseCached(stmt);
+}
+
+bool Recordset::fetchTo(int row)
+{
+    while (row >= m_rows.size())
+        if (!readRow())
+            return false;
+    return row >= 0;
+}
+
+int Recordset::fetchAll()
+{
+    while (readRow()) {
+    }
+    return static_cast<int>(m_rows.size());
+}
+
+int Recordset::countRows()
+{
+    if (!m_stmt)
+        return static_cast<int>(m_rows.size());
+    QString body = m_sql.trimmed();
+    while (body.endsWith(QLatin1Char(';')))
+        body.chop(1);
+    // The order of the rows does not change their number: a closing ORDER BY is not run again.
+    if (const qsizetype orderBy = closingOrderBy(body); orderBy > 0)
+        body.truncate(orderBy);
+    Statement st;
+    if (st.prepare(m_db, QStringLiteral("SELECT count(*) FROM (%1)").arg(body).toUtf8()) != SQLITE_OK)
+        m_db->raiseLastError(m_sourceSql);
+    bindParameters(st.stmt);
+    if (sqlite3_step(st.stmt) != SQLITE_ROW)
+        m_db->raiseLastError(m_sourceSql);
+    return std::max(static_cast<int>(sqlite3_column_int64(st.stmt, 0)), static_cast<int>(m_rows.size()));
+}
+
+QVariant Recordset::valueAt(int row, int column) const
+{
+    if (row < 0 || row >= m_rows.size() || column < 0 || column >= m_columns.size())
+        return {};
+    return m_rows[row][column];
 }
 
 int Recordset::indexOf(const QString &name) const
@@ -420,6 +559,7 @@ void Recordset::MoveFirst()
 
 void Recordset::MoveLast()
 {
+    fetchAll();
     if (m_rows.isEmpty())
         throw VbError::noCurrentRecord();
     m_editMode = EditMode::None;
@@ -432,6 +572,7 @@ void Recordset::MoveNext()
     if (m_eof)
         throw VbError::noCurrentRecord();
     m_editMode = EditMode::None;
+    fetchTo(m_pos + 1);
     setPosition(std::min<int>(m_pos + 1, static_cast<int>(m_rows.size())));
 }
 
@@ -451,6 +592,7 @@ void Recordset::Move(int rows)
         throw VbError::noCurrentRecord();
     m_editMode = EditMode::None;
     const int target = m_pos + rows;
+    fetchTo(target);
     setPosition(std::clamp(target, -1, static_cast<int>(m_rows.size())));
 }
 
@@ -470,7 +612,7 @@ int Recordset::AbsolutePosition() const
 
 void Recordset::setAbsolutePosition(int pos)
 {
-    if (pos < 0 || pos >= m_rows.size())
+    if (pos < 0 || !fetchTo(pos))
         throw VbError(VbErr::InvalidArgument, QStringLiteral("Invalid argument."));
     m_editMode = EditMode::None;
     setPosition(pos);
@@ -508,7 +650,7 @@ void Recordset::find(const QString &criteria, int start, int step)
     if (st.prepare(m_db, utf8.constData()) != SQLITE_OK)
         m_db->raiseLastError(criteria);
     m_editMode = EditMode::None;
-    for (int r = start; r >= 0 && r < m_rows.size(); r += step) {
+    for (int r = start; r >= 0 && fetchTo(r); r += step) {
         sqlite3_reset(st.stmt);
         const QVector<QVariant> &row = m_rows[r];
         for (int i = 0; i < row.size(); ++i)
@@ -527,11 +669,11 @@ void Recordset::find(const QString &criteria, int start, int step)
 }
 
 void Recordset::FindFirst(const QString &criteria) { find(criteria, 0, 1); }
-void Recordset::FindLast(const QString &criteria) { find(criteria, static_cast<int>(m_rows.size()) - 1, -1); }
+void Recordset::FindLast(const QString &criteria) { find(criteria, fetchAll() - 1, -1); }
 void Recordset::FindNext(const QString &criteria) { find(criteria, m_bof ? 0 : m_pos + 1, 1); }
 void Recordset::FindPrevious(const QString &criteria)
 {
-    find(criteria, m_eof ? static_cast<int>(m_rows.size()) - 1 : m_pos - 1, -1);
+    find(criteria, m_eof ? fetchAll() - 1 : m_pos - 1, -1);
 }
 
 static VbError notUpdatable()
@@ -543,6 +685,7 @@ void Recordset::AddNew()
 {
     if (!m_updatable)
         throw notUpdatable();
+    m_db->finishReading();   // no read may still be going on when this connection writes
     m_buffer = QVector<QVariant>(m_columns.size());
     m_dirty = QVector<bool>(m_columns.size(), false);
     // Defaults of the table fill the new row, as the engine shows them before the row is saved.
@@ -602,6 +745,9 @@ void Recordset::Update()
 {
     if (m_editMode == EditMode::None)
         throw VbError(VbErr::UpdateWithoutAddNewOrEdit, QStringLiteral("Update or CancelUpdate without AddNew or Edit."));
+    // No read may still be going on when this connection writes; a new row then joins the end of the
+    // rows, after all the statement's rows.
+    m_db->finishReading();
     sqlite3 *h = m_db->handle();
     QStringList cols;
     QVector<QVariant> values;
@@ -682,6 +828,7 @@ void Recordset::Delete()
 {
     if (!m_updatable)
         throw notUpdatable();
+    m_db->finishReading();
     if (m_pos < 0 || m_pos >= m_rows.size())
         throw VbError::noCurrentRecord();
     Statement st;
@@ -693,6 +840,7 @@ void Recordset::Delete()
         m_db->raiseLastError(m_table);
     m_rows.removeAt(m_pos);
     m_rowKeys.removeAt(m_pos);
+    fetchTo(m_pos);   // whether a row follows decides EOF
     // The position stays before the next row, so that MoveNext reaches it.
     m_pos -= 1;
     m_bof = m_pos < 0 && m_rows.isEmpty();
@@ -708,6 +856,7 @@ void Recordset::Requery()
 
 void Recordset::Close()
 {
+    finishReading();
     m_closed = true;
     m_rows.clear();
     m_rowKeys.clear();

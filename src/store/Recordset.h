@@ -8,14 +8,30 @@
 #include <memory>
 
 class Database;
+struct sqlite3_stmt;
+
+//! The columns of a statement's result, kept by the database per statement text: names, the base
+//! column and table of each ("" when computed), how values are read, and the one table the rows can
+//! be written back to ("" when none).
+struct RecordsetShape {
+    QStringList columns;
+    QStringList originColumns;
+    QStringList originTables;
+    QVector<int> kinds;
+    QString table;
+    QByteArray keyedSql;   // the statement with the table's rowid read first, when table is set
+};
 
 //! DAO recordset types: dynaset (2) can be written when it rests on one table; snapshot (4) never.
 enum class RecordsetType { Table = 1, Dynaset = 2, Snapshot = 4 };
 
 //! A DAO-style recordset over the result of one statement.
 //!
-//! The rows are read when the recordset opens; the current position, BOF/EOF, FindFirst/FindNext with
-//! Jet criteria, and RecordCount "as far as populated" behave as DAO's. A dynaset whose columns all
+//! In write-ahead-log mode rows are read from the statement as the position reaches them (the first
+//! row when the recordset opens), so that opening a large result costs what is looked at; under a
+//! rollback journal, where a read would block other programs' writes, every row is read at once; MoveLast, FindLast and a count read
+//! to the end. The current position, BOF/EOF, FindFirst/FindNext with Jet criteria, and RecordCount
+//! "as far as populated" behave as DAO's. A dynaset whose columns all
 //! come from one table with a key can be edited: AddNew (the new autonumber is readable at once),
 //! Edit, Update, CancelUpdate, Delete. Editing any other recordset (an aggregate, a join, a snapshot)
 //! throws 3027. Field names are case-insensitive.
@@ -38,8 +54,19 @@ public:
     void Move(int rows);
     //! Rows accessed so far (DAO): 0 when empty, otherwise at least 1; the full count after MoveLast.
     int RecordCount() const;
-    //! All rows of the result, whatever was visited.
-    int totalRows() const { return static_cast<int>(m_rows.size()); }
+    //! The rows read from the statement so far (at least every row visited).
+    int rowsRead() const { return static_cast<int>(m_rows.size()); }
+    //! True once every row of the result has been read.
+    bool complete() const { return !m_stmt; }
+    //! Reads rows until row (0-based) is read or the result ends; true when the row exists.
+    bool fetchTo(int row);
+    //! Reads every remaining row; gives the number of rows.
+    int fetchAll();
+    //! The number of rows of the result: the rows read when complete, otherwise counted by the database
+    //! without reading them.
+    int countRows();
+    //! The value of a field of any row read so far, without moving (for grids).
+    QVariant valueAt(int row, int column) const;
     //! Zero-based position of the current row, -1 at BOF/EOF.
     int AbsolutePosition() const;
     void setAbsolutePosition(int pos);
@@ -94,15 +121,22 @@ private:
     void setPosition(int pos);
     void find(const QString &criteria, int start, int step);
     void touch(int pos) { if (pos + 1 > m_populated) m_populated = pos + 1; }
+    bool readRow();
+    void bindParameters(sqlite3_stmt *stmt) const;
+    void finishReading();
 
     Database *m_db;
     QString m_sourceSql;   // as given (Jet)
     QString m_sql;         // translated
+    QVector<QVariant> m_params;   // values of ?1..?n in m_sql
     RecordsetType m_type;
     QStringList m_columns;
     QStringList m_originColumns;   // column in the base table, per column ("" if computed)
     QStringList m_originTables;    // table of each column ("" if computed)
     QVector<QVector<QVariant>> m_rows;
+    sqlite3_stmt *m_stmt = nullptr;           // the statement still being read, null once complete
+    QVector<int> m_kinds;                    // how each column's values are read
+    int m_keyOffset = 0;                     // 1 when the rowid is read before the columns
     QVector<qint64> m_rowKeys;     // key value of each row in the base table (updatable only)
     QString m_table;
     QString m_keyColumn;

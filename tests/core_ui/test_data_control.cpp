@@ -4,6 +4,7 @@
 #include "TestSupport.h"
 
 #include <QComboBox>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <gtest/gtest.h>
 
@@ -59,6 +60,55 @@ TEST_F(DataControlTest, GridFollowsEveryRefresh)
     EXPECT_EQ(dc.currentRow(), 2);
     dc.MoveFirst();
     EXPECT_EQ(grid.currentIndex().row(), 0);
+}
+
+TEST_F(DataControlTest, LongListsAreCountedByTheDatabaseAndReadAsShown)
+{
+    ts->gDB->Execute(QStringLiteral("Delete * From tblProject"));
+    ts->gDB->executeNative(QStringLiteral(
+        "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 3000) "
+        "INSERT INTO tblProject (Name, Purpose) SELECT printf('project %04d', i), 'p' FROM n"));
+    DataGrid grid(QStringLiteral("ssGrdMain"));
+    grid.setDataControl(&dc);
+    grid.setColumnHidden(QStringLiteral("ProjectID"), true);
+    grid.setColumnCaption(QStringLiteral("Name"), QStringLiteral("A caption wider than any project name in the list"));
+    grid.resize(400, 300);
+    grid.show();
+    dc.Refresh();
+    grid.fitColumns();  // from the header and the rows in view
+    EXPECT_EQ(dc.caption(), QStringLiteral("Record: 1 of 3000"));
+    EXPECT_EQ(grid.recordsetModel()->rowCount(), 3000);
+    EXPECT_LT(dc.recordset()->rowsRead(), 200);   // neither the count nor the column widths read every row
+    const int name = dc.fieldIndex(QStringLiteral("Name"));
+    EXPECT_GE(grid.columnWidth(name), grid.horizontalHeader()->sectionSizeHint(name));
+
+    EXPECT_EQ(grid.cellText(2500, 0), QStringLiteral("project 2501"));
+    grid.selectRowIndex(2999);
+    EXPECT_EQ(dc.caption(), QStringLiteral("Record: 3000 of 3000"));
+    EXPECT_EQ(dc.recordset()->field(QStringLiteral("Name")).toString(), QStringLiteral("project 3000"));
+    dc.MoveFirst();
+    dc.MoveLast();
+    EXPECT_EQ(dc.currentRow(), 2999);
+}
+
+TEST_F(DataControlTest, LongComboListsAreReadAsTheyAreLookedAt)
+{
+    ts->gDB->executeNative(QStringLiteral(
+        "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 3000) "
+        "INSERT INTO tblProject (Name) SELECT printf('place %04d', i) FROM n"));
+    QComboBox combo;
+    fillCombo(&combo, *ts->gDB, QStringLiteral("Select ProjectID, Name From tblProject Where Name Like 'place*' Order By Name"),
+              QStringLiteral("Name"), QStringLiteral("ProjectID"));
+    EXPECT_EQ(combo.currentIndex(), -1);
+    EXPECT_LT(combo.count(), 3000);
+    const QVariant far = ts->gDB->OpenRecordset(QStringLiteral("Select ProjectID From tblProject Where Name = 'place 2990'"))->field(0);
+    selectComboValue(&combo, far);
+    EXPECT_EQ(combo.currentText(), QStringLiteral("place 2990"));
+    selectComboValue(&combo, -5);
+    EXPECT_EQ(combo.currentIndex(), -1);
+    EXPECT_EQ(combo.count(), 3000);
+    combo.addItem(QStringLiteral("(none)"), 0);
+    EXPECT_EQ(combo.itemText(3000), QStringLiteral("(none)"));
 }
 
 TEST_F(DataControlTest, BoundBoxIsWrittenBackWhenTheRowIsLeft)

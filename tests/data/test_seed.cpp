@@ -144,7 +144,9 @@ TEST_F(SeedDb, TableListRowsPointAtRealTablesAndColumns)
         EXPECT_TRUE(names.contains(wanted)) << wanted;
 }
 
-TEST_F(SeedDb, EveryIdResolves)
+//! Every id column of every table names a row of the table it points to (0 and null mean none);
+//! gives the number of columns checked.
+static int expectEveryIdResolves(sqlite3 *db)
 {
     // column of a table -> the lookup it points to; 0 and null mean none.
     struct Link {
@@ -197,7 +199,7 @@ TEST_F(SeedDb, EveryIdResolves)
          "tblReferences", "ReferenceID"},
     };
     QStringList tables;
-    for (const Row &r : rows(h(), "SELECT name FROM sqlite_master WHERE type = 'table' AND name NOT LIKE 'sqlite%'"))
+    for (const Row &r : rows(db, "SELECT name FROM sqlite_master WHERE type = 'table' AND name NOT LIKE 'sqlite%'"))
         tables.append(r[0]);
     int checked = 0;
     for (const Link &link : links) {
@@ -208,11 +210,11 @@ TEST_F(SeedDb, EveryIdResolves)
                 if (table == QLatin1String(link.target))
                     continue;  // the key itself
                 // Scenario tables are empty in the seed; the columns exist there too.
-                if (scalar(h(), QStringLiteral("SELECT count(*) FROM pragma_table_info('%1') WHERE name = '%2' "
+                if (scalar(db, QStringLiteral("SELECT count(*) FROM pragma_table_info('%1') WHERE name = '%2' "
                                                "COLLATE NOCASE").arg(table, column)) != "1")
                     continue;
                 ++checked;
-                const auto dangling = rows(h(), QStringLiteral("SELECT DISTINCT [%2] FROM [%1] WHERE [%2] IS NOT NULL "
+                const auto dangling = rows(db, QStringLiteral("SELECT DISTINCT [%2] FROM [%1] WHERE [%2] IS NOT NULL "
                                                                "AND [%2] <> 0 AND [%2] NOT IN (SELECT [%4] FROM [%3])")
                                                     .arg(table, column, QLatin1String(link.target), QLatin1String(link.key)));
                 for (const Row &d : dangling)
@@ -221,7 +223,12 @@ TEST_F(SeedDb, EveryIdResolves)
             }
         }
     }
-    EXPECT_GT(checked, 100);
+    return checked;
+}
+
+TEST_F(SeedDb, EveryIdResolves)
+{
+    EXPECT_GT(expectEveryIdResolves(h()), 100);
     // Id 0 means "none": only the estimator lookup has a row with key 0.
     for (const char *lookup : {"tblDataSource", "tblGender", "tblStatus", "tblLifeStage", "tblUnits", "tblIntakeType",
                                "tblTaxon", "tblMonth", "tblReferences", "tblSpecies", "tblFamily"}) {
@@ -502,14 +509,19 @@ QString dumpAll(const QString &path)
     return out;
 }
 
-int runSeedTool(const QStringList &args, QString *errors = nullptr)
+int runTool(const QString &exe, const QStringList &args, QString *errors = nullptr)
 {
     QProcess p;
-    p.start(QStringLiteral(ZOBSEED_EXE), args);
+    p.start(exe, args);
     p.waitForFinished(-1);
     if (errors)
         *errors = QString::fromLocal8Bit(p.readAllStandardError());
     return p.exitStatus() == QProcess::NormalExit ? p.exitCode() : -1;
+}
+
+int runSeedTool(const QStringList &args, QString *errors = nullptr)
+{
+    return runTool(QStringLiteral(ZOBSEED_EXE), args, errors);
 }
 
 }  // namespace
@@ -584,5 +596,42 @@ TEST(SeedTool, ARebuildWithAChangedSeedLeavesTheUsersRowsInPlace)
     EXPECT_EQ(scalar(user.get(), "SELECT count(*) FROM tblUser WHERE User = 'ann'"), "1");
     EXPECT_EQ(scalar(user.get(), "SELECT count(*) FROM tblProject WHERE Name = 'Heron Marsh'"), "1");
     EXPECT_EQ(scalar(user.get(), "SELECT count(*) FROM tblStatus WHERE StatusID = 3"), "0");
+}
+
+TEST(ScaleTool, MakesEveryTableLargerWithValidLinksFromASeedNumber)
+{
+    QTemporaryDir dir;
+    const QString a = dir.filePath("a.sqlite"), b = dir.filePath("b.sqlite"), c = dir.filePath("c.sqlite");
+    ASSERT_EQ(runTool(QStringLiteral(ZOBSCALE_EXE), {QStringLiteral(ZOB_SEED_DB), a, "3", "7"}), 0);
+    ASSERT_EQ(runTool(QStringLiteral(ZOBSCALE_EXE), {QStringLiteral(ZOB_SEED_DB), b, "3", "7"}), 0);
+    ASSERT_EQ(runTool(QStringLiteral(ZOBSCALE_EXE), {QStringLiteral(ZOB_SEED_DB), c, "3", "8"}), 0);
+    const QString dumpA = dumpAll(a);
+    EXPECT_EQ(dumpA, dumpAll(b));
+    EXPECT_NE(dumpA, dumpAll(c));
+
+    const Db seed = openReadOnly(QStringLiteral(ZOB_SEED_DB));
+    const Db big = openReadOnly(a);
+    for (const char *table : {"tblSpecies", "tblWeight", "tblDiet", "tblDietItem", "tblGrossEnergy", "tblAE",
+                              "tblWaterConversion", "tblTrophicLevel", "tblIntakeModel", "tblIntakeMeasured",
+                              "tblSoilIngestion", "tblReferences", "tblLIFEHISTORYTEXT", "tblFamily", "tblStateProvince"}) {
+        const QString count = QStringLiteral("SELECT count(*) FROM %1").arg(table);
+        EXPECT_EQ(number(big.get(), count), 3 * number(seed.get(), count)) << table;
+    }
+    // Small code tables keep their rows; the user's tables get three units of work.
+    EXPECT_EQ(number(big.get(), "SELECT count(*) FROM tblGender"), number(seed.get(), "SELECT count(*) FROM tblGender"));
+    EXPECT_EQ(number(big.get(), "SELECT count(*) FROM tblProject"), 30);
+    EXPECT_EQ(number(big.get(), "SELECT count(*) FROM tblScenario"), 60);
+    EXPECT_EQ(number(big.get(), "SELECT count(*) FROM tblUser"), 3);
+    EXPECT_EQ(number(big.get(), "SELECT count(*) FROM tblComments"), 9);
+    EXPECT_EQ(number(big.get(), "SELECT count(*) FROM tblIntakeZOB"), 180);
+    EXPECT_EQ(number(big.get(), "SELECT count(*) FROM jtblProjectScenario WHERE ProjectID NOT IN (SELECT ProjectID "
+                                "FROM tblProject) OR ScenarioID NOT IN (SELECT ScenarioID FROM tblScenario)"), 0);
+    EXPECT_GT(number(big.get(), "SELECT count(*) FROM tblWildlifeDietItems"), 0);
+    // A copy of a diet item belongs to the copy of its diet, of the copy of its species.
+    EXPECT_EQ(number(big.get(), "SELECT count(*) FROM tblDietItem i JOIN tblDiet d ON i.DietID = d.DietID JOIN tblSpecies s "
+                                "ON d.SpeciesID = s.SpeciesID WHERE s.Common LIKE '% #2' AND i.Name NOT LIKE '% #2'"), 0);
+    EXPECT_GT(expectEveryIdResolves(big.get()), 100);
+    EXPECT_NE(runTool(QStringLiteral(ZOBSCALE_EXE), {QStringLiteral(ZOB_SEED_DB), dir.filePath("d.sqlite"), "0"}), 0);
+    EXPECT_FALSE(QFile::exists(dir.filePath("d.sqlite")));
 }
 #endif

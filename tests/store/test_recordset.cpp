@@ -204,6 +204,67 @@ TEST_F(RecordsetTest, DeleteMovesOnAndExecuteReportsErrors)
     EXPECT_EQ(db->Execute(QStringLiteral("INSERT INTO tblThing (ThingID, Name) VALUES (2, 'x')"), false), 0);
 }
 
+TEST_F(RecordsetTest, RowsAreReadAsTheyAreReachedAndCountedWithoutReading)
+{
+    ASSERT_TRUE(db->shareWithOtherPrograms());   // where a half-read statement holds up nobody
+    db->executeNative(QStringLiteral("WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 500) "
+                                     "INSERT INTO tblThing (Name, Kind) SELECT 'row ' || i, i % 3 FROM n"));
+    auto rs = db->OpenRecordset(QStringLiteral("Select * From tblThing Where Kind = 1 Order By ThingID"));
+    EXPECT_EQ(rs->rowsRead(), 1);
+    EXPECT_FALSE(rs->complete());
+    EXPECT_EQ(rs->countRows(), 167);
+    EXPECT_EQ(rs->rowsRead(), 1);
+    EXPECT_EQ(db->OpenRecordset(QStringLiteral("Select Top 5 * From tblThing Order By Name Desc"))->countRows(), 5);
+    rs->setAbsolutePosition(9);
+    EXPECT_EQ(rs->rowsRead(), 10);
+    EXPECT_EQ(rs->RecordCount(), 10);
+    rs->FindFirst(QStringLiteral("Name = 'ROW 100'"));
+    EXPECT_FALSE(rs->NoMatch());
+    EXPECT_EQ(rs->AbsolutePosition(), 33);
+    const int mark = rs->Bookmark();
+    rs->MoveLast();
+    EXPECT_TRUE(rs->complete());
+    EXPECT_EQ(rs->RecordCount(), 167);
+    rs->setBookmark(mark);
+    EXPECT_EQ(rs->field(QStringLiteral("Name")).toString(), QStringLiteral("row 100"));
+    EXPECT_EQ(errorNumber([&] { rs->setAbsolutePosition(167); }), VbErr::InvalidArgument);
+}
+
+TEST_F(RecordsetTest, RowsAddedWhileReadingComeLastAndOnceAndSchemaChangesWait)
+{
+    ASSERT_TRUE(db->shareWithOtherPrograms());   // where a half-read statement holds up nobody
+    db->executeNative(QStringLiteral("WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 200) "
+                                     "INSERT INTO tblThing (Name) SELECT 'row ' || i FROM n"));
+    auto rs = db->OpenRecordset(QStringLiteral("tblThing"));
+    rs->AddNew();
+    rs->setField(QStringLiteral("Name"), QStringLiteral("added"));
+    rs->Update();
+    rs->MoveFirst();
+    int added = 0, rows = 0;
+    for (; !rs->EOF_(); rs->MoveNext(), ++rows)
+        added += rs->field(QStringLiteral("Name")).toString() == QLatin1String("added");
+    EXPECT_EQ(added, 1);
+    EXPECT_EQ(rows, 204);
+    rs->MoveLast();
+    EXPECT_EQ(rs->field(QStringLiteral("Name")).toString(), QStringLiteral("added"));
+
+    // A statement still being read would lock its table against a schema change: it is read first.
+    auto pending = db->OpenRecordset(QStringLiteral("Select * From tblThing Order By ThingID"));
+    ASSERT_FALSE(pending->complete());
+    db->executeNative(QStringLiteral("CREATE TABLE tblScratch (ID INTEGER)"));
+    db->executeNative(QStringLiteral("DROP TABLE tblScratch"));
+    EXPECT_TRUE(pending->complete());
+    pending->MoveLast();
+    EXPECT_EQ(pending->RecordCount(), 204);
+
+    // Deleting the last row read finds whether another follows.
+    auto two = db->OpenRecordset(QStringLiteral("Select * From tblThing Where ThingID <= 2"));
+    two->Delete();
+    two->MoveNext();
+    EXPECT_FALSE(two->EOF_());
+    EXPECT_EQ(two->field(QStringLiteral("ThingID")).toInt(), 2);
+}
+
 TEST(DatabaseOpen, MissingOrDamagedFilesRaiseTheirNumbers)
 {
     QTemporaryDir dir;

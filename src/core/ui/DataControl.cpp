@@ -15,6 +15,8 @@
 #include <QLabel>
 #include <QMetaMethod>
 #include <QMouseEvent>
+#include <QStandardItemModel>
+#include <QStyleOptionViewItem>
 #include <QToolButton>
 #include <cstdio>
 
@@ -83,42 +85,24 @@ void DataControl::Refresh()
     auto rs = m_db->OpenRecordset(m_source, RecordsetType::Dynaset);
     emit aboutToRefresh();
     m_rs = std::move(rs);
-    readRows();
+    m_fields = m_rs->fieldNames();
+    countRows();
     emit refreshed();
     arrive();
 }
 
-void DataControl::readRows()
+void DataControl::countRows()
 {
-    m_fields = m_rs->fieldNames();
-    m_rows.clear();
-    const int n = m_rs->totalRows();
-    if (n == 0)
-        return;
-    // Reading to the last row makes the count the full count, as the grid and caption need it.
-    m_rs->MoveLast();
-    m_rows.reserve(n);
-    for (int r = 0; r < n; ++r) {
-        m_rs->setAbsolutePosition(r);
-        QVector<QVariant> values;
-        values.reserve(m_fields.size());
-        for (int c = 0; c < m_fields.size(); ++c)
-            values.push_back(m_rs->field(c));
-        m_rows.push_back(std::move(values));
-    }
-    m_rs->MoveFirst();
+    // A screenful of rows is read at once; only a longer result is counted by the database.
+    constexpr int firstRows = 64;
+    m_rs->fetchTo(firstRows);
+    m_count = m_rs->complete() ? m_rs->rowsRead() : m_rs->countRows();
 }
 
 void DataControl::refreshRow(int row)
 {
-    if (!m_rs || row < 0 || row >= m_rows.size() || row >= m_rs->totalRows())
+    if (!m_rs || row < 0 || row >= m_rs->rowsRead())
         return;
-    const int keep = currentRow();
-    m_rs->setAbsolutePosition(row);
-    for (int c = 0; c < m_fields.size(); ++c)
-        m_rows[row][c] = m_rs->field(c);
-    if (keep >= 0)
-        m_rs->setAbsolutePosition(keep);
     emit rowChanged(row);
 }
 
@@ -139,14 +123,14 @@ int DataControl::fieldIndex(const QString &field) const
 
 QVariant DataControl::value(int row, int column) const
 {
-    if (row < 0 || row >= m_rows.size() || column < 0 || column >= m_fields.size())
+    if (!m_rs || row < 0 || row >= m_count || column < 0 || column >= m_fields.size() || !m_rs->fetchTo(row))
         return {};
-    return m_rows[row][column];
+    return m_rs->valueAt(row, column);
 }
 
 void DataControl::MoveFirst()
 {
-    if (!m_rs || m_rows.isEmpty())
+    if (!m_rs || m_count == 0)
         return;
     leaveRow();
     m_rs->MoveFirst();
@@ -155,7 +139,7 @@ void DataControl::MoveFirst()
 
 void DataControl::MoveLast()
 {
-    if (!m_rs || m_rows.isEmpty())
+    if (!m_rs || m_count == 0)
         return;
     leaveRow();
     m_rs->MoveLast();
@@ -165,7 +149,7 @@ void DataControl::MoveLast()
 void DataControl::MoveNext()
 {
     const int row = currentRow();
-    if (row >= 0 && row + 1 < m_rows.size())
+    if (row >= 0 && row + 1 < m_count)
         moveTo(row + 1);
 }
 
@@ -178,7 +162,7 @@ void DataControl::MovePrevious()
 
 void DataControl::moveTo(int row)
 {
-    if (!m_rs || row < 0 || row >= m_rows.size() || row == currentRow())
+    if (!m_rs || row < 0 || row >= m_count || row == currentRow() || !m_rs->fetchTo(row))
         return;
     leaveRow();
     m_rs->setAbsolutePosition(row);
@@ -199,8 +183,8 @@ void DataControl::arrive()
     const int row = currentRow();
     m_first->setEnabled(row > 0);
     m_prev->setEnabled(row > 0);
-    m_next->setEnabled(row >= 0 && row + 1 < m_rows.size());
-    m_last->setEnabled(row >= 0 && row + 1 < m_rows.size());
+    m_next->setEnabled(row >= 0 && row + 1 < m_count);
+    m_last->setEnabled(row >= 0 && row + 1 < m_count);
     emit Reposition();
 }
 
@@ -259,17 +243,61 @@ void DataControl::bind(QWidget *control, const QString &field)
     m_bindings.push_back({control, field, ControlValue::kind(control) == QLatin1String("label"), {}});
 }
 
+namespace {
+//! The items of a combo filled from a statement, read from its recordset a batch at a time as the
+//! list is scrolled (or a value is looked for), so that a list of thousands opens at the cost of one
+//! batch. Items added by hand after the fill come after the rows read so far, before later batches.
+class RecordsetComboModel : public QStandardItemModel {
+public:
+    RecordsetComboModel(std::unique_ptr<Recordset> rs, int listColumn, int boundColumn, QObject *parent)
+        : QStandardItemModel(0, 1, parent), m_rs(std::move(rs)), m_list(listColumn), m_bound(boundColumn)
+    {
+        fetchMore({});
+    }
+    bool canFetchMore(const QModelIndex &parent) const override
+    {
+        return !parent.isValid() && m_rs && m_rs->fetchTo(m_next);
+    }
+    void fetchMore(const QModelIndex &parent) override
+    {
+        if (parent.isValid() || !m_rs)
+            return;
+        constexpr int batch = 256;
+        QList<QStandardItem *> items;
+        for (; items.size() < batch && m_rs->fetchTo(m_next); ++m_next) {
+            const QVariant shown = m_rs->valueAt(m_next, m_list);
+            auto *item = new QStandardItem(shown.isNull() ? QString() : shown.toString());
+            item->setData(m_rs->valueAt(m_next, m_bound), Qt::UserRole);
+            items << item;
+        }
+        if (!items.isEmpty())
+            invisibleRootItem()->appendRows(items);
+        if (!m_rs->fetchTo(m_next))
+            m_rs.reset();   // every row is an item: the statement is done with
+    }
+
+private:
+    std::unique_ptr<Recordset> m_rs;
+    int m_list;
+    int m_bound;
+    int m_next = 0;
+};
+}  // namespace
+
 void fillCombo(QComboBox *combo, Database &db, const QString &jetSql, const QString &listField,
                const QString &boundColumn)
 {
     auto rs = db.OpenRecordset(jetSql, RecordsetType::Snapshot);
+    const QStringList fields = rs->fieldNames();
+    auto column = [&](const QString &name) {
+        for (int i = 0; i < fields.size(); ++i)
+            if (fields[i].compare(name, Qt::CaseInsensitive) == 0)
+                return i;
+        throw VbError(VbErr::ItemNotFound, QStringLiteral("Item not found in this collection. (%1)").arg(name));
+    };
+    const int list = column(listField), bound = column(boundColumn);
     const QSignalBlocker block(combo);
-    combo->clear();
-    while (!rs->EOF_()) {
-        const QVariant shown = rs->field(listField);
-        combo->addItem(shown.isNull() ? QString() : shown.toString(), rs->field(boundColumn));
-        rs->MoveNext();
-    }
+    combo->setModel(new RecordsetComboModel(std::move(rs), list, bound, combo));
     combo->setCurrentIndex(-1);
 }
 
@@ -278,7 +306,11 @@ void selectComboValue(QComboBox *combo, const QVariant &value)
     int found = -1;
     if (!value.isNull()) {
         const QString wanted = value.toString();
-        for (int i = 0; i < combo->count() && found < 0; ++i) {
+        QAbstractItemModel *model = combo->model();
+        for (int i = 0; found < 0; ++i) {
+            // Items not read yet are read until the value turns up.
+            if (i >= combo->count() && !(model->canFetchMore({}) && (model->fetchMore({}), i < combo->count())))
+                break;
             const QVariant data = combo->itemData(i);
             const QString have = data.isValid() ? data.toString() : combo->itemText(i);
             if (have.compare(wanted, Qt::CaseInsensitive) == 0)
@@ -479,6 +511,29 @@ void DataGrid::applyHidden()
         if (const int width = m_widths.value(field); width > 0)
             setColumnWidth(c, width * charWidth);
     }
+}
+
+int DataGrid::sizeHintForColumn(int column) const
+{
+    if (!m_model || column < 0 || column >= m_model->columnCount())
+        return -1;
+    ensurePolished();
+    const int rows = m_model->rowCount();
+    const int rowHeight = std::max(1, verticalHeader()->defaultSectionSize());
+    int top = rowAt(0);
+    if (top < 0)
+        top = 0;
+    // Before the grid is laid out its viewport says nothing: a screenful of rows stands for the view.
+    const int inView = isVisible() ? viewport()->height() / rowHeight + 1 : 0;
+    const int bottom = std::min(rows, top + std::max(inView, 40));
+    QStyleOptionViewItem option;
+    initViewItemOption(&option);
+    int hint = 0;
+    for (int row = top; row < bottom; ++row) {
+        const QModelIndex index = m_model->index(row, column);
+        hint = std::max(hint, itemDelegateForIndex(index)->sizeHint(option, index).width());
+    }
+    return hint + (showGrid() ? 1 : 0);
 }
 
 int DataGrid::shownColumn(int n) const

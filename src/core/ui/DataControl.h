@@ -19,9 +19,10 @@ class QToolButton;
 class Recordset;
 
 //! A data control: a record source (Jet SQL) on a database, its recordset and current row, a caption
-//! "Record: n of m", a Reposition signal, and the boxes bound to its columns. Refresh reads every row
-//! (so the count is known at once) and keeps a copy of them for grids. The bound columns of a row are
-//! written back when the row is left: on a move, on Refresh, or on UpdateRecord.
+//! "Record: n of m", a Reposition signal, and the boxes bound to its columns. Refresh reads the first
+//! rows only; the others are read from the recordset when they are asked for (a grid asks for the rows
+//! it shows), and the full count comes from the database. The bound columns of a row are written back
+//! when the row is left: on a move, on Refresh, or on UpdateRecord.
 class DataControl : public QWidget {
     Q_OBJECT
 public:
@@ -55,14 +56,16 @@ public:
     void UpdateRecord();
     //! Shows the current row in the bound boxes again, dropping what was typed.
     void UpdateControls();
-    //! Reads one row again from the recordset into the copy the grids show.
+    //! Tells the grids that a row's values changed in the recordset.
     void refreshRow(int row);
 
-    // The rows as read at the last Refresh (kept up to date by the write-back).
-    int rowCount() const { return static_cast<int>(m_rows.size()); }
+    //! The rows of the record source at the last Refresh: counted by the database unless the first
+    //! rows read were all of them.
+    int rowCount() const { return m_count; }
     int columnCount() const { return static_cast<int>(m_fields.size()); }
     const QStringList &fields() const { return m_fields; }
     int fieldIndex(const QString &field) const;
+    //! A value of a row (read from the recordset up to that row when needed); null out of range.
     QVariant value(int row, int column) const;
     QVariant value(int row, const QString &field) const { return value(row, fieldIndex(field)); }
 
@@ -96,22 +99,24 @@ private:
     void leaveRow();
     void arrive();
     void showRow();
-    void readRows();
+    void countRows();
 
     std::shared_ptr<Database> m_db;
     QString m_source;
     std::unique_ptr<Recordset> m_rs;
     QStringList m_fields;
-    QVector<QVector<QVariant>> m_rows;
+    int m_count = 0;
     QVector<Binding> m_bindings;
     QLabel *m_caption;
     QToolButton *m_first, *m_prev, *m_next, *m_last;
 };
 
-//! Fills a combo from a statement: the shown column becomes the text, the bound column the data.
+//! Fills a combo from a statement: the shown column becomes the text, the bound column the data. The
+//! items are read a batch at a time as the list is scrolled or a value is looked for.
 void fillCombo(QComboBox *combo, Database &db, const QString &jetSql, const QString &listField,
                const QString &boundColumn);
-//! Shows the item whose data equals value (text compare without case); -1 and an empty box for none.
+//! Shows the item whose data equals value (text compare without case), reading items not read yet;
+//! -1 and an empty box for none.
 void selectComboValue(QComboBox *combo, const QVariant &value);
 
 //! Colours of a grid row.
@@ -201,6 +206,9 @@ signals:
 
 protected:
     void mouseDoubleClickEvent(QMouseEvent *event) override;
+    //! The widest cell of the rows in view (or of the first screenful before the grid is laid out):
+    //! a column is sized without reading rows nobody sees.
+    int sizeHintForColumn(int column) const override;
 
 private:
     void applyHidden();

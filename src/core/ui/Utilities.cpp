@@ -93,8 +93,10 @@ bool isLocked(const QWidget *control)
 
 void SetRecordPosition(DataControl &dc)
 {
+    // The full count comes from the data control, which counts with the database rather than reading
+    // every row into the recordset.
     Recordset *rs = dc.recordset();
-    const int count = rs ? rs->RecordCount() : 0;
+    const int count = rs ? dc.rowCount() : 0;
     if (count < 1)
         dc.setCaption(QStringLiteral("Record: 0 of 0"));
     else
