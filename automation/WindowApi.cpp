@@ -5,6 +5,7 @@
 #include "GuiBridge.h"
 #include "InputSim.h"
 #include "QtWindowHost.h"
+#include "ReportView.h"
 #include "ZobToolbar.h"
 
 #include <QAction>
@@ -193,4 +194,29 @@ void MenuApi::trigger()
             a->trigger();
         return QVariant();
     });
+}
+
+namespace {
+ReportView *reportOf(QWidget *w, const QString &name)
+{
+    auto *report = dynamic_cast<ReportView *>(w);
+    if (!report)
+        throw BridgeError(QStringLiteral("the window %1 is not a report").arg(name));
+    return report;
+}
+}  // namespace
+
+int WindowApi::pageCount() const
+{
+    return withLoaded([this](QWidget *w) { return QVariant(reportOf(w, m_name)->pageCount()); }).toInt();
+}
+
+QString WindowApi::text() const
+{
+    return withLoaded([this](QWidget *w) { return QVariant(reportOf(w, m_name)->reportText()); }).toString();
+}
+
+bool WindowApi::exportPdf(const QString &path)
+{
+    return withLoaded([this, path](QWidget *w) { return QVariant(reportOf(w, m_name)->exportPdf(path)); }).toBool();
 }

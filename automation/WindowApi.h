@@ -34,6 +34,7 @@ class WindowApi : public QObject {
     Q_PROPERTY(bool visible READ visible)
     Q_PROPERTY(bool loaded READ loaded)
     Q_PROPERTY(QStringList controls READ controls)
+    Q_PROPERTY(int pageCount READ pageCount)
 public:
     WindowApi(const ScriptContext &ctx, QString name);
     QString name() const { return m_name; }
@@ -51,6 +52,11 @@ public:
     Q_INVOKABLE bool grab(const QString &path);
     Q_INVOKABLE void keyDown(int code, int shift = 0);
     Q_INVOKABLE void click();
+    //! A report preview's pages, their text in reading order, and the report as a PDF file (a
+    //! relative path starts at the program folder); a window that is no report throws.
+    int pageCount() const;
+    Q_INVOKABLE QString text() const;
+    Q_INVOKABLE bool exportPdf(const QString &path);
 private:
     //! Runs fn on the GUI thread with the window, null when it is not there.
     QVariant with(const std::function<QVariant(QWidget *)> &fn) const;

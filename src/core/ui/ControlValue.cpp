@@ -312,6 +312,10 @@ class DataControlAdapter : public Typed<DataControl> {
 public:
     QString kind() const override { return QStringLiteral("data"); }
     QString text(const QWidget *w) const override { return as(w)->caption(); }
+    //! The current row (0-based, -1 for none); setting it moves there as the navigator would.
+    QVariant value(const QWidget *w) const override { return as(w)->currentRow(); }
+    void setValue(QWidget *w, const QVariant &v, Origin) const override { as(w)->moveTo(v.toInt()); }
+    void select(QWidget *w, int index, Origin) const override { as(w)->moveTo(index); }
 };
 
 class ToolbarAdapter : public Typed<ZobToolbar> {

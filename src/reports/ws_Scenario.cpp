@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+// The overview report of the open scenario: who made and changed it, and its description.
+#include "ProjectSummary.h"
+#include "QtWindowHost.h"
+#include "ReportWindow.h"
+#include "Session.h"
+#include "clsScenario.h"
+
+namespace {
+class ws_Scenario : public ActiveReport {
+public:
+    explicit ws_Scenario(Session &session) : ActiveReport(session, QStringLiteral("ws_Scenario"))
+    {
+        caption = QStringLiteral("Wildlife Scenario");
+        addReportHeading(*this, QStringLiteral("Report Type: OVERVIEW"), QStringLiteral("File"), QStringLiteral("Scenario_LastSaved"));
+        detail.items << bold(label({}, QStringLiteral("Created by:"), 0, 6, 110))
+                     << field(QStringLiteral("fldCreatedBy"), QStringLiteral("Scenario_CreatedBy"), 115, 6, 408)
+                     << bold(label({}, QStringLiteral("Modified by:"), 0, 22, 110))
+                     << field(QStringLiteral("fldModifiedBy"), QStringLiteral("Scenario_ModifiedBy"), 115, 22, 408)
+                     << bold(label({}, QStringLiteral("Scenario Description:"), 0, 44, 523))
+                     << field(QStringLiteral("fldScenarioDescription"), QStringLiteral("ScenarioDescription"), 0, 60, 523);
+        detail.height = 76;
+        addPageFooter(*this);
+    }
+    QString subject() const override { return QString::number(m_session.gScenario ? m_session.gScenario->SID : 0); }
+    void ActiveReport_ReportStart() override
+    {
+        recordSource = QStringLiteral("SELECT tblScenario.Scenario_FileName AS File, tblScenario.Scenario_CreatedBy, "
+                                      "tblScenario.Scenario_ModifiedBy, tblScenario.Scenario_LastSaved, tblScenario.Comments AS "
+                                      "ScenarioDescription FROM tblScenario WHERE tblScenario.ScenarioID  = ") + subject();
+    }
+};
+const WindowRegistration<ReportWindowOf<ws_Scenario>> reg(QStringLiteral("ws_Scenario"));
+}  // namespace
