@@ -9,7 +9,6 @@
 #include "Session.h"
 #include "SystemLinks.h"
 #include "WindowLinks.h"
-#include "ZobWindow.h"
 #include "clsProject.h"
 #include "clsScenario.h"
 

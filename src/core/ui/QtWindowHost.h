@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Services.h"
+#include "ZobWindow.h"
 
 #include <QHash>
 #include <QObject>
@@ -13,7 +14,6 @@
 class QMdiArea;
 class QMdiSubWindow;
 class Session;
-class ZobWindow;
 
 //! Creates, shows and unloads the program's windows by class name: one instance per class, made by
 //! the factory registered under the name at its first reference (its Form_Load runs then). Child
