@@ -45,18 +45,6 @@ TEST(PathSpelling, FindsTheSpellingOnDiskOfAnUpperCasePath)
     EXPECT_EQ(resolvePathCase(QString()), QString());
 }
 
-TEST(PathSpelling, TellsThatTheTestFileSystemKeepsCase)
-{
-    // Two names that differ only in case are two files here, so case counts, for the folder, a file
-    // in it and a path below it that does not exist yet.
-    Tree t;
-    writeFile(t.project + QStringLiteral("/POND.NAV"), "other");
-    ASSERT_NE(readFile(t.project + QStringLiteral("/pond.NAV")), readFile(t.project + QStringLiteral("/POND.NAV")));
-    EXPECT_FALSE(pathIgnoresCase(t.project));
-    EXPECT_FALSE(pathIgnoresCase(t.project + QStringLiteral("/pond.NAV")));
-    EXPECT_FALSE(pathIgnoresCase(t.project + QStringLiteral("/New/Deeper")));
-}
-
 TEST(PathSpelling, WhereCaseCountsAChosenPathKeepsItsRealSpelling)
 {
     Tree t;

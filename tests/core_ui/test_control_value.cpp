@@ -240,28 +240,3 @@ TEST(ControlValueItems, GridReadsItsCurrentRowAndSelectsMoveTheDataControl)
     EXPECT_EQ(dc.currentRow(), 1);
     EXPECT_EQ(ControlValue::text(&grid), QStringLiteral("beta\tAnn"));
 }
-
-TEST(ControlValueRefusals, EachKindRefusesWhatItCannotDoByName)
-{
-    QLabel label;
-    label.setObjectName(QStringLiteral("lblSource"));
-    ControlValue::setText(&label, QStringLiteral("shown"));  // the program writes labels
-    EXPECT_EQ(ControlValue::text(&label), QStringLiteral("shown"));
-    EXPECT_EQ(refusal([&] { ControlValue::type(&label, QStringLiteral("x")); }), QStringLiteral("lblSource does not take text"));
-
-    QPushButton button(QStringLiteral("OK"));
-    button.setObjectName(QStringLiteral("cmdOK"));
-    EXPECT_EQ(ControlValue::kind(&button), QStringLiteral("button"));
-    EXPECT_EQ(refusal([&] { ControlValue::setText(&button, QStringLiteral("x")); }), QStringLiteral("cmdOK does not take text"));
-    EXPECT_EQ(refusal([&] { ControlValue::pick(&button, 0); }), QStringLiteral("cmdOK has nothing to select"));
-
-    QLineEdit box;
-    box.setObjectName(QStringLiteral("txtName"));
-    EXPECT_EQ(refusal([&] { ControlValue::items(&box); }), QStringLiteral("txtName has no items"));
-
-    // A widget of no kind: a window's caption as text, and nothing else.
-    QWidget window;
-    window.setWindowTitle(QStringLiteral("Setup"));
-    EXPECT_EQ(ControlValue::kind(&window), QString());
-    EXPECT_EQ(ControlValue::text(&window), QStringLiteral("Setup"));
-}

@@ -338,36 +338,6 @@ TEST_F(SeedDb, DietItemsRepeatTheValuesOfTheRowsTheyLink)
     }
 }
 
-TEST_F(SeedDb, CompiledAdditionsAreLoaded)
-{
-    // The diets of the reptiles, amphibians, kingfisher and gull, their items, the fruit efficiencies
-    // and their references, loaded with the ids they were compiled with.
-    struct Range {
-        const char *table, *key;
-        int first, last, count;
-    };
-    const Range ranges[] = {
-        {"tblDiet", "DietID", 2001, 2007, 7},         {"tblDiet", "DietID", 2101, 2103, 3},
-        {"tblDietItem", "DietItemID", 20001, 20022, 22}, {"tblDietItem", "DietItemID", 21001, 21013, 13},
-        {"tblAE", "AEID", 951, 953, 3},               {"tblReferences", "ReferenceID", 2001, 2004, 4},
-        {"tblReferences", "ReferenceID", 2101, 2105, 5},
-    };
-    for (const Range &r : ranges)
-        EXPECT_EQ(scalar(h(), QStringLiteral("SELECT count(*) FROM %1 WHERE %2 BETWEEN %3 AND %4")
-                                  .arg(QLatin1String(r.table), QLatin1String(r.key)).arg(r.first).arg(r.last)),
-                  QString::number(r.count)) << r.table << " " << r.first << "-" << r.last;
-    // Each new diet belongs to its species and holds its own items only.
-    EXPECT_EQ(scalar(h(), "SELECT group_concat(DietID || ':' || SpeciesID || ':' || n) FROM (SELECT d.DietID, d.SpeciesID, "
-                          "count(i.DietItemID) n FROM tblDiet d JOIN tblDietItem i ON i.DietID = d.DietID "
-                          "WHERE d.DietID > 2000 GROUP BY d.DietID ORDER BY d.DietID)"),
-              "2001:46:2,2002:47:2,2003:47:2,2004:45:3,2005:48:4,2006:49:6,2007:52:3,2101:11:4,2102:14:4,2103:14:5");
-    // The fruit items of the robin, tree swallow, song sparrow and the two mice use the new efficiencies;
-    // the bobwhite's fruit has none that fits a quail and keeps an empty link.
-    EXPECT_EQ(scalar(h(), "SELECT group_concat(DietItemID || ':' || COALESCE(AEID, '-')) FROM (SELECT * FROM tblDietItem "
-                          "WHERE DietItemID IN (1, 3, 52, 62, 73, 77) ORDER BY DietItemID)"),
-              "1:952,3:951,52:-,62:952,73:953,77:953");
-}
-
 TEST_F(SeedDb, CompleteEnergyChainsPerSpecies)
 {
     // A food requirement needs, for every item of a diet, a gross energy on the diet's basis, an

@@ -107,42 +107,6 @@ TEST(PickerStatements, FilterOnlyForAPositiveValueAndSortsByTheirTables)
     EXPECT_EQ(FilteredPicker::levelColumn(7), QString());
 }
 
-TEST_F(PickerTest, EveryListRunsInEachOfItsSortsAndFilters)
-{
-    for (const PickerProfile &p : {frmSelect_GE::profile(), frmSelect_AE::profile(), frmSelect_WaterConversion::profile(),
-                                   frmSelect_TrophicLevel::profile()}) {
-        for (const QString &sort : {p.firstSort, p.filterSort, QStringLiteral("Lifestage"), QStringLiteral("Component")}) {
-            if (sort == QLatin1String("Lifestage") && p.table == QLatin1String("tblTrophicLevel"))
-                continue;  // the trophic level list has no life stage
-            if (sort == QLatin1String("Component") && p.table == QLatin1String("tblTrophicLevel"))
-                continue;
-            const QString sql = FilteredPicker::listStatement(p, QStringLiteral("ClassID"), 2, sort);
-            auto rs = ts->gDB->OpenRecordset(sql, RecordsetType::Snapshot);
-            EXPECT_TRUE(rs->hasField(QStringLiteral("Reference"))) << qPrintable(sql);
-            EXPECT_TRUE(rs->hasField(p.key)) << qPrintable(sql);
-        }
-    }
-}
-
-TEST_F(PickerTest, TheFilterFollowsTheCallersClassificationAndAMissingLevelListsAll)
-{
-    auto *w = open<frmSelect_GE>(QStringLiteral("frmSelect_GE"));
-    const int all = list(w)->rowCount();
-    pick(w, 6);
-    EXPECT_EQ(list(w)->rowCount(), scalar(QStringLiteral("Select Count(*) From tblGrossEnergy Where FamilyID = 90")).toInt());
-    EXPECT_LT(list(w)->rowCount(), all);
-    ts->gDB->Execute(QStringLiteral("Update tblDietItem Set FamilyID = Null Where DietItemID = 970001"));
-    pick(w, 5);
-    pick(w, 6);
-    EXPECT_EQ(list(w)->rowCount(), all);
-    EXPECT_TRUE(ts.messages.shown.isEmpty()) << qPrintable(ts.messages.shown.value(0).text);
-    // Opened from the menu (record 0) the levels change nothing.
-    host.unload(QStringLiteral("frmSelect_GE"));
-    w = open<frmSelect_GE>(QStringLiteral("frmSelect_GE"), 0, 0, false, QStringLiteral("Write"));
-    pick(w, 6);
-    EXPECT_EQ(list(w)->rowCount(), all);
-}
-
 TEST_F(PickerTest, TheHeldRowIsShownFirstUnlessTheFilterLeavesItOut)
 {
     const qint32 held = scalar(QStringLiteral("Select Max(GrossEnergyID) From tblGrossEnergy Where FamilyID <> 90 Or FamilyID Is Null")).toInt();

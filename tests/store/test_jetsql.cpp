@@ -473,39 +473,6 @@ TEST_F(JetSqlDb, ApostropheInJoinedValue)
 // Random input
 // ---------------------------------------------------------------------------------------------
 
-// Random token soup either translates into text SQLite can tokenize to the end, or raises 3075.
-TEST(JetSqlFuzz, TokenSoupTranslatesOrRaisesSyntaxError)
-{
-    const char *vocabulary[] = {
-        "SELECT", "FROM", "WHERE", "Delete", "Update", "SET", "*", "t", ".", "!", "[a b]", "[x", "]", "'s'",
-        "'", "\"d\"", "\"", "#1/2/2003#", "#", "(", ")", ",", "&", "&", "Like", "'*a?[*]'", "Not", "Is", "Null",
-        "Between", "And", "Or", "True", "No", "=", "<>", "-", "-", "/", "12", "3.5", "Nz", "Left", "Right",
-        "Mid", "Date", "Now", "Val", "TOP", "DISTINCTROW", "IN", "AS", ";", "Mod", "é", "%", "?", "\\", "`",
-    };
-    std::mt19937 rng(20240611);
-    std::uniform_int_distribution<size_t> pick(0, std::size(vocabulary) - 1);
-    std::uniform_int_distribution<int> length(0, 24), coin(0, 2);
-    int translated = 0;
-    for (int iter = 0; iter < 4000; ++iter) {
-        QString jet;
-        for (int k = length(rng); k > 0; --k) {
-            if (coin(rng))
-                jet += QLatin1Char(' ');
-            jet += QString::fromUtf8(vocabulary[pick(rng)]);
-        }
-        try {
-            const QString sql = iter % 2 ? translateJetSql(jet) : translateJetCriteria(jet);
-            ++translated;
-            // No unterminated literal, name or comment reaches SQLite.
-            EXPECT_TRUE(sqlite3_complete((sql + QLatin1String("\n;")).toUtf8().constData()))
-                << jet.toStdString() << "\n -> " << sql.toStdString();
-        } catch (const VbError &e) {
-            EXPECT_EQ(e.number(), VbErr::SyntaxError) << jet.toStdString();
-        }
-    }
-    EXPECT_GT(translated, 400);  // the soup must not be all errors
-}
-
 // A literal that is not a LIKE pattern reaches SQLite with the same content, whatever it holds.
 TEST_F(JetSqlDb, LiteralsSurviveUnchanged)
 {

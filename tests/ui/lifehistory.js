@@ -33,27 +33,6 @@ test('the menu item opens the search with every species listed', () => {
          'Seasonal Activities', 'Body Size and Growth Rate']);
 });
 
-test('each criterion alone and two together find what the rows say', () => {
-    expect(searchWith({'txtSearch(0)': 'duck'})).toEqual(
-        commons(base + " WHERE lcase(Common) Like '*duck*' Or lcase(Latin) Like '*duck*'" + order));
-    expect(searchWith({cboTaxon: 'Mammals'})).toEqual(commons(base + " WHERE tblTaxon.Description = 'Mammals'" + order));
-    expect(searchWith({cboHabitat: 'Salt marsh'})).toEqual(commons(base + " WHERE Habitat Like '*Salt marsh*'" + order));
-    const withFish = commons(base + ' WHERE SpeciesID In (SELECT d.SpeciesID FROM tblDiet d, tblDietItem i'
-                             + " WHERE i.DietID = d.DietID And i.Name Like '*fish*')" + order);
-    expect(withFish.length).toBeGreaterThan(0);
-    expect(searchWith({'txtSearch(3)': 'fish'})).toEqual(withFish);
-    const levels = commons(base + ' WHERE SpeciesID In (SELECT d.SpeciesID FROM tblDiet d, tblDietItem i, tblTrophicLevel t'
-                           + ' WHERE i.DietID = d.DietID And t.TrophicLevelID = i.TrophicLevelID'
-                           + ' GROUP BY d.SpeciesID HAVING Avg(t.TrophicLevel) >= 3 And Avg(t.TrophicLevel) <= 4)' + order);
-    expect(levels.length).toBeGreaterThan(0);
-    expect(searchWith({'txtSearch(1)': '3', 'txtSearch(2)': '4'})).toEqual(levels);
-    const birdsWithFish = commons(base + " WHERE tblTaxon.Description = 'Birds' And SpeciesID In (SELECT d.SpeciesID FROM"
-                                  + " tblDiet d, tblDietItem i WHERE i.DietID = d.DietID And i.Name Like '*fish*')" + order);
-    expect(searchWith({cboTaxon: 'Birds', 'txtSearch(3)': 'fish'})).toEqual(birdsWithFish);
-    expect(birdsWithFish.length).toBeGreaterThan(0);
-    expect(birdsWithFish.length).toBeLessThan(withFish.length);
-});
-
 test('bad input gives a message or an empty result, and the search goes on working', () => {
     ui.clearMessages();
     searchWith({'txtSearch(0)': "o'brien"});

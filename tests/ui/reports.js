@@ -76,25 +76,6 @@ test('a project without scenarios prints its heads and no scenario line', () => 
     ui.window('frmProject').toolbar().click('Close');
 });
 
-test('a long scenario list runs over pages with the heads repeated', () => {
-    const pid = newProject('Long River', 1);
-    addScenarios(pid, 60);
-    openProject('Long River');
-    const report = printSummary();
-    expect(report.pageCount > 1).toBeTruthy();
-    const pages = report.text().split(/Page \d+ of \d+/).slice(0, -1);
-    const count = report.pageCount;
-    expect(pages.length).toBe(count);
-    for (let i = 0; i < count; ++i) {
-        expect(pages[i].indexOf('Scenario Type Scenaro File Name Species Date Last Modified') >= 0).toBeTruthy();
-        expect(pages[i].indexOf('Wildlife Scenario') >= 0).toBeTruthy();
-    }
-    expect(report.text().indexOf('Page 1 of ' + count)).toBeGreaterThan(0);
-    expect(report.text().endsWith('Page ' + count + ' of ' + count)).toBeTruthy();
-    expect(report.text().indexOf('Great Blue Heron 60')).toBeGreaterThan(0);
-    expect(report.exportPdf('long.pdf')).toBeTruthy();
-});
-
 // The intake report of a scenario with air, water, metabolic rate and soil rows, against figures
 // worked by hand from the model's coefficients and the weight as printed (one decimal).
 function intakeScenario(opts) {

@@ -103,12 +103,6 @@ test('a button opens a modal window, the script works inside it, its toolbar clo
     expect(w.control('lblResult').caption).toBe('Dialog: Cancel');
 });
 
-test('the toolbar has its buttons by index and key', () => {
-    const tb = ui.window('frmRuntimeCheck').toolbar();
-    expect(tb.keys).toEqual(['Open', '', 'Close', 'Help']);
-    expect(() => tb.click('Nothing')).toThrow('no button');
-});
-
 test('two help requests in a row each show the topic asked for', () => {
     ui.menu('mnuContents').trigger();
     expect(ui.helpTopic()).toBe(1501);
@@ -140,15 +134,6 @@ test('the unload logic runs and can refuse', () => {
 test('a failing statement throws into the script', () => {
     expect(() => db.exec('Delete * From tblNoSuchTable')).toThrow();
     expect(db.exec("Update tblUser Set PathExport = 'x' Where User = 'tester'")).toBe(1);
-});
-
-test('the conversions of the legacy runtime', () => {
-    expect(fmt.vbFormat(2.675, '0.00')).toBe('2.68');
-    expect(fmt.CSng('0.1')).toBe(0.1);
-    expect(fmt.Val('12abc')).toBe(12);
-    expect(fmt.Lookup('tblUser', 'User', "User = 'tester'")).toBe('tester');
-    expect(fmt.Lookup('tblUser', 'User', "User = 'nobody'")).toBe('not found');
-    expect(() => fmt.CSng('not found')).toThrow('13');
 });
 
 test('a picture of a window can be written', () => {

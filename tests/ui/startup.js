@@ -135,23 +135,6 @@ test('About is modal over the main window, closes on Escape and is unloaded', ()
     expect(ui.window('frmMDI').caption).toContain('Zobrel');
 });
 
-test('help Contents shows topic 1501, and each of two requests in a row shows its own topic', () => {
-    ui.menu('mnuContents').trigger();
-    expect(ui.helpTopic()).toBe(1501);
-    const setup = ui.window('frmSetup');
-    setup.control('ssTabSetup').selectTab(1);
-    setup.toolbar().click(10);
-    expect(ui.helpTopic()).toBe(4002);
-    ui.menu('mnuContents').trigger();
-    expect(ui.helpTopic()).toBe(1501);
-    setup.control('ssTabSetup').selectTab(3);
-    setup.toolbar().click(10);
-    expect(ui.helpTopic()).toBe(4004);
-    setup.toolbar().click(10);
-    expect(ui.helpTopic()).toBe(4004);
-    expect(ui.messages().length).toBe(0);
-});
-
 test('Setup... shows the one setup window again', () => {
     ui.window('frmSetup').close();
     expect(ui.windows()).not.toContain('frmSetup');
