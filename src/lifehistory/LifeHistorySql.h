@@ -13,13 +13,13 @@ namespace LifeHistorySql {
 
 //! The criteria of the species search, as the boxes hold them (texts go in unescaped).
 struct SearchCriteria {
-    QString species;
+    QString species = {};
     //! The bound id of the taxon shown; empty when the combo shows nothing.
-    QString taxonId;
-    QString habitat;
-    QString dietItem;
-    QString trophicFrom;
-    QString trophicTo;
+    QString taxonId = {};
+    QString habitat = {};
+    QString dietItem = {};
+    QString trophicFrom = {};
+    QString trophicTo = {};
 };
 
 //! The criteria joined into a where text, trimmed and without a closing "AND"; empty for none.

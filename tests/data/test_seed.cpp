@@ -413,54 +413,6 @@ TEST_F(SeedDb, AllometricEquationsGiveSensibleRates)
         EXPECT_LT(r[2].toDouble() / r[1].toDouble(), 2.0) << "taxon " << r[0].toStdString();
 }
 
-TEST_F(SeedDb, WorkedExampleMallardAndRedFox)
-{
-    // Metabolizable energy of a diet on the wet basis: sum of proportion * GE(wet) * AE/100, the way
-    // the energy query sums the items that have both an energy and an efficiency row.
-    const QString me = "SELECT SUM(a.Mean * 0.01 * g.WET_WT_KCALG * i.Wet_Proportion) FROM tblGrossEnergy g "
-                       "JOIN tblDietItem i ON g.GrossEnergyID = i.GrossEnergyID JOIN tblAE a ON i.AEID = a.AEID "
-                       "WHERE i.DietID = %1";
-    // Field metabolic rate in kcal/day from an allometric row for a body weight in grams.
-    const QString fmr = "SELECT m.UCF * m.a * pow(u.Factor * %2, m.b) * COALESCE(m.MMF, 1) FROM tblIntakeModel m "
-                        "JOIN tblUnits u ON u.UnitsID = m.WtUnitsID WHERE m.IntakeModelID = %1";
-
-    // Mallard (species 3), diet 3 measured as % biomass (wet basis), adult male wild weight 1210 g.
-    EXPECT_EQ(scalar(h(), "SELECT Common FROM tblSpecies WHERE SpeciesID = 3"), "Mallard");
-    EXPECT_EQ(scalar(h(), "SELECT WeightIsWet FROM tblDiet JOIN tblMeasureTerm USING (MeasureTermID) WHERE DietID = 3"), "1");
-    EXPECT_EQ(number(h(), "SELECT Mean FROM tblWeight WHERE WeightID = 5 AND SpeciesID = 3"), 1210.0);
-    //   terrestrial insects  0.26 * 1.7   * 72 %   = 0.31824
-    //   snails               0.15 * 0.985 * 73 %   = 0.1078575
-    //   seeds and grain      0.35 * 4.254 * 60.3 % = 0.8978067
-    //   spiders etc.         0.12 * 1.7   * 72 %   = 0.14688
-    //   earthworms           0.12 * 0.9   * 72 %   = 0.07776
-    //   MEavg = 1.5485442 kcal/g wet, shown as 1.55
-    const double mallardMe = number(h(), me.arg(3));
-    EXPECT_NEAR(mallardMe, 1.5485442, 1e-6);
-    // All birds, free-living (model 8): 10.5 * 1210^0.681 kJ/day = 10.5 * 125.7120 = 1319.976 kJ/day,
-    // * 0.239006 kcal/kJ = 315.48 kcal/day.
-    const double mallardFmr = number(h(), fmr.arg(8).arg(1210));
-    EXPECT_NEAR(mallardFmr, 315.48, 0.005);
-    // TDI = 315.48 / 1.55 = 203.535... -> 203.54 g/day wet.
-    EXPECT_DOUBLE_EQ(round2(round2(mallardFmr) / round2(mallardMe)), 203.54);
-
-    // Red fox (species 33), diet 31 on the wet basis, weight 4820.36 g (both sexes).
-    EXPECT_EQ(scalar(h(), "SELECT Common FROM tblSpecies WHERE SpeciesID = 33"), "Red fox");
-    EXPECT_EQ(scalar(h(), "SELECT WeightIsWet FROM tblDiet JOIN tblMeasureTerm USING (MeasureTermID) WHERE DietID = 31"), "1");
-    EXPECT_EQ(number(h(), "SELECT Mean FROM tblWeight WHERE WeightID = 59 AND SpeciesID = 33"), 4820.36);
-    //   invertebrates            0.2 * 1.7   * 87 %   = 0.2958
-    //   mammals and birds        0.7 * 1.7   * 84 %   = 0.9996
-    //   fruit (blueberry pulp)   0.1 * 0.603 * 83.4 % = 0.0502902
-    //   MEavg = 1.3456902 kcal/g wet, shown as 1.35
-    const double foxMe = number(h(), me.arg(31));
-    EXPECT_NEAR(foxMe, 1.3456902, 1e-6);
-    // All mammals, free-living (model 9): 4.82 * 4820.36^0.734 = 4.82 * 505.1034 = 2434.599 kJ/day,
-    // * 0.239006 = 581.88 kcal/day.
-    const double foxFmr = number(h(), fmr.arg(9).arg(4820.36));
-    EXPECT_NEAR(foxFmr, 581.88, 0.005);
-    // TDI = 581.88 / 1.35 = 431.022... -> 431.02 g/day wet.
-    EXPECT_DOUBLE_EQ(round2(round2(foxFmr) / round2(foxMe)), 431.02);
-}
-
 #ifdef ZOBSEED_EXE
 namespace {
 

@@ -166,33 +166,3 @@ TEST_F(LifeHistorySqlTest, TopicClausesAndCaptionsGoByOptionIndex)
         EXPECT_TRUE(found) << type.toStdString();
     }
 }
-
-TEST_F(LifeHistorySqlTest, PageStatementsListEveryRecordOfASpeciesAndNarrowByOption)
-{
-    const QString count = QStringLiteral("Select Count(*) As N From %1 Where SpeciesID = %2");
-    for (const QVariantMap &s : species) {
-        const int id = s.value(QStringLiteral("SpeciesID")).toInt();
-        const int weights = rowsOf(db, count.arg(QStringLiteral("tblWeight")).arg(id)).first().value(QStringLiteral("N")).toInt();
-        ASSERT_EQ(rowsOf(db, weightStatement(id, 3, 2, 2)).size(), weights) << id;
-        const int males = rowsOf(db, weightStatement(id, 0, 2, 2)).size();
-        const int females = rowsOf(db, weightStatement(id, 1, 2, 2)).size();
-        const int both = rowsOf(db, weightStatement(id, 2, 2, 2)).size();
-        EXPECT_EQ(males, rowsOf(db, count.arg(QStringLiteral("tblWeight")).arg(id) + QStringLiteral(" And GenderID = 4")).first().value(QStringLiteral("N")).toInt());
-        EXPECT_LE(males + females + both, weights);
-        EXPECT_EQ(rowsOf(db, weightStatement(id, 3, 0, 2)).size() + rowsOf(db, weightStatement(id, 3, 1, 2)).size(), weights);
-        const int diets = rowsOf(db, count.arg(QStringLiteral("tblDiet")).arg(id)).first().value(QStringLiteral("N")).toInt();
-        ASSERT_EQ(rowsOf(db, dietStatement(id, 2, 3)).size(), diets) << id;
-        int seasons = 0;
-        for (const char *c : {"reproduction", "dispersal", "tempreg/develop"})
-            seasons += rowsOf(db, seasonStatement(id, QString::fromLatin1(c))).size();
-        EXPECT_EQ(seasons, rowsOf(db, count.arg(QStringLiteral("tblSEASON")).arg(id)).first().value(QStringLiteral("N")).toInt());
-        for (int factor : growthFactors() + intakeFactors()) {
-            const int n = rowsOf(db, count.arg(QStringLiteral("tblPOPDENS")).arg(id) + QStringLiteral(" And FactorID = %1").arg(factor))
-                              .first().value(QStringLiteral("N")).toInt();
-            EXPECT_EQ(rowsOf(db, factorStatement(id, factor, true)).size(), n);
-            EXPECT_EQ(rowsOf(db, factorStatement(id, factor, false)).size(), n);
-        }
-    }
-    EXPECT_TRUE(weightStatement(1, 2, 2, 2).endsWith(QLatin1String("WHERE tblWeight.SpeciesID = 1 AND tblWeight.GenderID = 1")));
-    EXPECT_TRUE(dietStatement(1, 0, 1).endsWith(QLatin1String(" AND tblLifeStage.LifestageID = 7 AND tblDiet.GenderID =  5")));
-}

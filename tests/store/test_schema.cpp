@@ -161,40 +161,6 @@ TEST(Schema, EveryNamedColumnExistsOnceWhateverItsCase)
         EXPECT_EQ(columnsOf(db.get(), table).size(), schemaColumns().value(table).size()) << table.toStdString();
 }
 
-TEST(Schema, AutonumberKeysAndKeylessTables)
-{
-    const Db db = memoryDbWithSchema();
-    const QStringList keyed = {
-        "tblScenario.ScenarioID", "tblProject.ProjectID", "tblUser.UserID", "tblSpecies.SpeciesID",
-        "tblWeight.WeightID", "tblDiet.DietID", "tblDietItem.DietItemID", "tblGrossEnergy.GrossEnergyID",
-        "tblAE.AEID", "tblWaterConversion.WaterConversionID", "tblTrophicLevel.TrophicLevelID",
-        "tblIntakeModel.IntakeModelID", "tblIntakeMeasured.IntakeMeasuredID", "tblSoilIngestion.SoilIngestionID",
-        "tblReferences.ReferenceID", "tblDataSource.DataSourceID", "tblUnits.UnitsID", "tblTableList.TableListID",
-        "tblFamily.FamilyID", "tblEstimator.EstimatorID"};
-    for (const QString &qualified : keyed) {
-        const QString table = qualified.section(QLatin1Char('.'), 0, 0);
-        const QString key = qualified.section(QLatin1Char('.'), 1, 1);
-        const auto columns = columnsOf(db.get(), table);
-        EXPECT_EQ(columns.value(key.toLower()).pk, 1) << qualified.toStdString();
-        EXPECT_TRUE(scalar(db.get(), QStringLiteral("SELECT sql FROM sqlite_master WHERE name = '%1'").arg(table))
-                        .contains(QLatin1String("AUTOINCREMENT")))
-            << qualified.toStdString();
-        // A blank row gets a key, and keys are never reused after a delete.
-        exec(db.get(), QStringLiteral("INSERT INTO [%1] DEFAULT VALUES").arg(table).toUtf8().constData());
-        const qint64 first = sqlite3_last_insert_rowid(db.get());
-        EXPECT_GT(first, 0);
-        exec(db.get(), QStringLiteral("DELETE FROM [%1]").arg(table).toUtf8().constData());
-        exec(db.get(), QStringLiteral("INSERT INTO [%1] DEFAULT VALUES").arg(table).toUtf8().constData());
-        EXPECT_EQ(sqlite3_last_insert_rowid(db.get()), first + 1) << qualified.toStdString();
-    }
-    for (const char *table : {"tblWildlife", "tblIntakeZOB", "tblWildlifeDietItems", "tblWildlifeDiet",
-                              "jtblProjectScenario", "jtblSpeciesReference", "tblComments", "tblLIFEHISTORYTEXT",
-                              "tblPOPDENS", "tblSEASON", "tblLogChanges"}) {
-        for (const ColumnInfo &c : columnsOf(db.get(), table))
-            EXPECT_EQ(c.pk, 0) << table;
-    }
-}
-
 TEST(Schema, ReferenceViewBuildsTheCitationAndCopesWithMissingParts)
 {
     const Db db = memoryDbWithSchema();

@@ -188,22 +188,3 @@ test('without an open scenario the list is empty and any command asks for a scen
     expect(ui.helpTopic()).toBe(3601);
     w.close();
 });
-
-test('the overview report prints a 5,000-character description whole', () => {
-    const sid = intakeScenario({common: 'Vole', weight: 30, model: 8});
-    const words = [];
-    for (let i = 0; words.join(' ').length < 5000; ++i)
-        words.push('word' + i);
-    db.exec("Update tblScenario Set Comments = '" + words.join(' ') + "', Scenario_LastSaved = #7/4/2024# Where ScenarioID = " + sid);
-    ui.show('ws_Scenario');
-    const report = ui.window('ws_Scenario');
-    const text = report.text();
-    expect(text.indexOf('Report Type: OVERVIEW')).toBeGreaterThan(0);
-    expect(text.indexOf('Disk File: mink.ZOB Last Saved: July 4, 2024')).toBeGreaterThan(0);
-    expect(text.indexOf('Created by: ann\nModified by: bob\nScenario Description:')).toBeGreaterThan(0);
-    const printed = text.split(/\s+/).filter(w => /^word\d+$/.test(w));
-    expect(printed).toEqual(words);
-    expect(text.endsWith('Page ' + report.pageCount + ' of ' + report.pageCount)).toBeTruthy();
-    expect(report.exportPdf('overview.pdf')).toBeTruthy();
-    report.close();
-});

@@ -157,19 +157,6 @@ test('the description zooms for editing and comes back into its box', () => {
     expect(p.control('txtProject(1)').text).toBe('Otters and mink below the mill');
 });
 
-test('"Save As..." does nothing', () => {
-    const before = {
-        windows: ui.windows().slice().sort(), file: fs.read('tester/Project/otter.NAV'),
-        rows: JSON.stringify(db.query('Select * from tblProject')), files: fs.list('tester/Project')};
-    ui.clearMessages();
-    ui.menu('mnuProjectOptions(5)').trigger();
-    expect(ui.messages().length).toBe(0);
-    expect(ui.windows().slice().sort()).toEqual(before.windows);
-    expect(fs.read('tester/Project/otter.NAV')).toBe(before.file);
-    expect(JSON.stringify(db.query('Select * from tblProject'))).toBe(before.rows);
-    expect(fs.list('tester/Project')).toEqual(before.files);
-});
-
 test('closing the project window saves without a question and the list shows the project', () => {
     ui.clearMessages();
     ui.window('frmProject').toolbar().click('Close');
