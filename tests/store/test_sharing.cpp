@@ -133,31 +133,6 @@ TEST_F(SharedFile, ALockThatOutlastsTheWaitIsReportedAsALockAndChangesNothing)
     EXPECT_EQ(rs->field(0).toString(), QStringLiteral("kept"));
 }
 
-TEST_F(SharedFile, TwoProgramsAddingRowsGetDifferentAutonumbers)
-{
-    auto a = Database::open(path());
-    auto b = Database::open(path());
-    auto ra = a->OpenRecordset(QStringLiteral("tblProject"));
-    auto rb = b->OpenRecordset(QStringLiteral("tblProject"));
-    ra->AddNew();
-    rb->AddNew();
-    const int idA = ra->field(QStringLiteral("ProjectID")).toInt();
-    const int idB = rb->field(QStringLiteral("ProjectID")).toInt();
-    EXPECT_EQ(idA, 2);
-    EXPECT_EQ(idB, 3);
-    rb->setField(QStringLiteral("Name"), QStringLiteral("b"));
-    rb->Update();
-    ra->setField(QStringLiteral("Name"), QStringLiteral("a"));
-    ra->Update();
-    // An abandoned AddNew has used its number up, as the legacy engine's autonumbers did.
-    ra->AddNew();
-    ra->CancelUpdate();
-    rb->AddNew();
-    EXPECT_EQ(rb->field(QStringLiteral("ProjectID")).toInt(), 5);
-    rb->Update();
-    EXPECT_EQ(count(*a, QStringLiteral("tblProject")), 4);
-}
-
 TEST_F(SharedFile, ATransactionIsAllOrNothing)
 {
     auto db = Database::open(path());
