@@ -57,3 +57,11 @@ public:
     virtual ~BasisChooser() = default;
     virtual void setPurpose(qint16 iOpt, QWidget *answer) = 0;
 };
+
+//! The text zoom: shows the text of a box of another window in a large box, modally, under a caption;
+//! read-only shows it for reading only. True when the text was written back into the box.
+class TextZoom {
+public:
+    virtual ~TextZoom() = default;
+    virtual bool ZoomText(QWidget *target, const QString &caption, bool readOnly) = 0;
+};
