@@ -216,8 +216,10 @@ void frmSelect_Diet::select()
     clsScenario &scenario = *s.gScenario;
     scenario.DietID = dietId;
     const QVariant term = s.Lookup(QStringLiteral("tblDiet"), QStringLiteral("MeasureTermID"), QStringLiteral("DietID = %1").arg(dietId));
-    scenario.DietType = vb::CInt(s.Lookup(QStringLiteral("tblMeasureTerm"), QStringLiteral("WeightIsWet"),
-                                          QStringLiteral("MeasureTermID = %1").arg(vb::CStr(term))));
+    const QVariant wet = s.Lookup(QStringLiteral("tblMeasureTerm"), QStringLiteral("WeightIsWet"),
+                                  QStringLiteral("MeasureTermID = %1").arg(vb::CStr(term)));
+    // The yes/no column reads as a boolean; the scenario keeps its wet flag as 1 or 0.
+    scenario.DietType = vb::CInt(wet) != 0 ? 1 : 0;
     scenario.Diet_DataSource = row.field(QStringLiteral("DataSourceID")).toInt();
     DietHeadText head;
     head.season = ControlValue::text(m_cboFrom) + QStringLiteral(" - ") + ControlValue::text(m_cboTo);
