@@ -295,7 +295,14 @@ void frmZOB::PuS_SetTab(int index)
 
 int frmZOB::currentPage() const { return m_ssTabSB->currentIndex(); }
 
-QString frmZOB::note(int index) const { return index >= 0 && index < 10 ? ControlValue::text(m_notes[index]) : QString(); }
+QString frmZOB::note(int index) const
+{
+    if (index < 0 || index >= 10)
+        return QString();
+    // The notes are stored with the line ends they were written with (CR LF).
+    QString text = ControlValue::text(m_notes[index]);
+    return text.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(QLatin1Char('\n'), QStringLiteral("\r\n"));
+}
 QString frmZOB::dietSeason() const { return m_diet->season(); }
 QString frmZOB::dietHabitat() const { return m_diet->habitat(); }
 QString frmZOB::dietSex() const { return m_diet->sex(); }
