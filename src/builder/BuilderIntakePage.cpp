@@ -303,7 +303,7 @@ void BuilderIntakePage::selectFromDatabase()
         request.table = QStringLiteral("tblSoilIngestion");
         request.keyField = QStringLiteral("SoilIngestionID");
         request.isSelection = true;
-        m_w.openWindow(QStringLiteral("frmSelect_SoilIngestion"), request, true, QStringLiteral("The soil ingestion list"));
+        m_w.openWindow(QStringLiteral("frmSelect_SoilIngestion"), request, true);
     } else if (n < 3) {
         const QString taxon = ControlValue::text(m_w.findChild<QWidget *>(QStringLiteral("cboTaxon")));
         // An empty taxon is "not found", which is no number: the command fails and is reported.
@@ -348,6 +348,6 @@ void BuilderIntakePage::PrS_LoadSelectIntakeScreen(int n)
         request.recordId = n;
         request.selectedId = vb::CLng(taxon);
         request.mode = QStringLiteral("Read");
-        m_w.openWindow(QStringLiteral("frmSelect_Intake"), request, true, QStringLiteral("The intake rate list"));
+        m_w.openWindow(QStringLiteral("frmSelect_Intake"), request, true);
     });
 }

@@ -130,7 +130,7 @@ void BuilderSpeciesPage::selectFromDatabase()
     request.table = QStringLiteral("tblWildlife");
     request.mode = QStringLiteral("ReadOnly");
     request.entry = QStringLiteral("ZOB");
-    m_w.openWindow(QStringLiteral("frmSelect_Species"), request, true, QStringLiteral("The species list"));
+    m_w.openWindow(QStringLiteral("frmSelect_Species"), request, true);
 }
 
 void BuilderSpeciesPage::clearSpeciesControls()

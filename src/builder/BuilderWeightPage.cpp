@@ -110,7 +110,7 @@ void BuilderWeightPage::selectFromDatabase()
     arrayItem<QWidget>(&m_w, QStringLiteral("cmdMoreInfo"), 1)->setVisible(true);
     RecordRequest request;
     request.mode = QStringLiteral("Read");
-    m_w.openWindow(QStringLiteral("frmSelect_Weight"), request, true, QStringLiteral("The weight list"));
+    m_w.openWindow(QStringLiteral("frmSelect_Weight"), request, true);
 }
 
 void BuilderWeightPage::enterHypothetical()

@@ -19,6 +19,7 @@
 #include "Session.h"
 #include "Utilities.h"
 #include "VbFormat.h"
+#include "WindowAvailable.h"
 #include "clsDietItem.h"
 #include "clsProject.h"
 
@@ -307,12 +308,10 @@ QString frmZOB::dietSeason() const { return m_diet->season(); }
 QString frmZOB::dietHabitat() const { return m_diet->habitat(); }
 QString frmZOB::dietSex() const { return m_diet->sex(); }
 
-bool frmZOB::openWindow(const QString &name, const RecordRequest &request, bool modal, const QString &what)
+bool frmZOB::openWindow(const QString &name, const RecordRequest &request, bool modal)
 {
-    if (!QtWindowHost::isRegistered(name)) {
+    if (!windowAvailable(session(), name)) {
         session().resetCursor();
-        session().msgBox(what + QStringLiteral(" is not part of this version of the program; it comes with a later one."),
-                         QString(), MsgIcon::Information);
         return false;
     }
     if (ZobWindow *w = host().form(name))
