@@ -35,7 +35,6 @@ BuilderSpeciesPage::BuilderSpeciesPage(frmZOB &window, FormBuilder &page, FormBu
         {1, QStringLiteral("Enter Hypothetical Data"), [this] { enterHypothetical(); }}});
     commands.stretch();
     m_w.pageButtons(commands, QStringLiteral("cmdMoreInfo"), {{0, QStringLiteral("More Information..."), [this] { m_w.cmdMoreInfo_Click(); }}});
-    page.stretch();
     connect(m_txtCommonName, &QLineEdit::textChanged, this, &BuilderSpeciesPage::namesChanged);
     connect(m_txtLatinName, &QLineEdit::textChanged, this, &BuilderSpeciesPage::namesChanged);
     connect(m_cboTaxon, &QComboBox::currentTextChanged, this, &BuilderSpeciesPage::namesChanged);

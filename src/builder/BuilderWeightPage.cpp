@@ -36,7 +36,6 @@ BuilderWeightPage::BuilderWeightPage(frmZOB &window, FormBuilder &page) : QObjec
         {3, QStringLiteral("Enter Hypothetical Data"), [this] { enterHypothetical(); }}});
     commands.stretch();
     m_w.pageButtons(commands, QStringLiteral("cmdMoreInfo"), {{1, QStringLiteral("More Information..."), [this] { m_w.cmdMoreInfo_Click(); }}});
-    page.stretch();
 }
 
 void BuilderWeightPage::load()

@@ -50,7 +50,9 @@ frmZOB::frmZOB(Session &session, QtWindowHost &host) : ZobWindow(session, host, 
     FormBuilder status = header.frame(QStringLiteral("fraStatus"), QStringLiteral("Wildlife Scenario"));
     FormBuilder description = header.column(2, QStringLiteral("fraDescriptionColumn"))
                                   .frame(QStringLiteral("fraScenarioDescription"), QStringLiteral("Scenario Description"));
-    noteBox(description, 8, QString(), 3)->setToolTip(QStringLiteral("Double click to enlarge for data entry"));
+    QPlainTextEdit *scenarioText = noteBox(description, 8, QString(), 3);
+    scenarioText->setToolTip(QStringLiteral("Double click to enlarge for data entry"));
+    scenarioText->setMaximumHeight(scenarioText->minimumHeight());
     m_ssTabSB = b.tabs(QStringLiteral("ssTabSB"));
     FormBuilder species = b.page(m_ssTabSB, QStringLiteral("Species"));
     m_species = new BuilderSpeciesPage(*this, species, status);
