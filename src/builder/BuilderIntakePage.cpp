@@ -233,7 +233,7 @@ void BuilderIntakePage::SaveIntake(int type)
             rs->setField(QStringLiteral("Units_CF"), 1);
             rs->setField(QStringLiteral("Measured_CF"), 1);
             rs->setField(QStringLiteral("CategoryID"), 0);
-            rs->setField(QStringLiteral("IntakeEquation"), QString());
+            rs->setField(QStringLiteral("IntakeEquation"), QStringLiteral(""));
         }
         rs->setField(QStringLiteral("AdjustedRate"), m_adjustedRate);
         rs->setField(QStringLiteral("Units"), m_units_);
