@@ -12,6 +12,7 @@
 #include "Recordset.h"
 #include "Session.h"
 #include "Utilities.h"
+#include "WindowAvailable.h"
 #include "clsDietItem.h"
 #include "clsScenario.h"
 #include "frmZOB.h"
@@ -215,7 +216,7 @@ void BuilderDietPage::PrS_LoadSelectDietScreen()
         RecordRequest request;
         request.recordId = 0;
         request.mode = QStringLiteral("Read");
-        m_w.openWindow(QStringLiteral("frmSelect_Diet"), request, false, QStringLiteral("The diet list"));
+        m_w.openWindow(QStringLiteral("frmSelect_Diet"), request, false);
         s.resetCursor();
     });
 }
@@ -244,11 +245,8 @@ void BuilderDietPage::editItem(bool current)
 {
     Session &s = m_w.session();
     guarded(s, {ErrForm::Shared, QStringLiteral("cmdEdit_Click")}, [&] {
-        if (!QtWindowHost::isRegistered(kDietItemWindow)) {
-            s.msgBox(QStringLiteral("Diet items cannot be changed here yet: the diet item window is not part of this version of the program."),
-                     QString(), MsgIcon::Information);
+        if (!windowAvailable(s, kDietItemWindow))
             return;
-        }
         RecordRequest request;
         request.table = QStringLiteral("tblWildlifeDietItems");
         request.entry = QStringLiteral("ZOB");
@@ -265,7 +263,7 @@ void BuilderDietPage::editItem(bool current)
             s.gDietItem->Mode = QStringLiteral("New");
             request.recordId = s.gScenario->DietID;
         }
-        m_w.openWindow(kDietItemWindow, request, false, QStringLiteral("The diet item window"));
+        m_w.openWindow(kDietItemWindow, request, false);
     });
 }
 
@@ -304,12 +302,9 @@ void BuilderDietPage::columnHelp(int logicalColumn)
 void BuilderDietPage::sumProportions()
 {
     Session &s = m_w.session();
-    auto *chooser = m_w.host().link<BasisChooser>(kBasisWindow);
-    if (!chooser) {
-        s.msgBox(QStringLiteral("The choice of a wet or dry basis is not part of this version of the program: proportions were not summed."),
-                 QString(), MsgIcon::Information);
+    auto *chooser = windowAvailable(s, kBasisWindow) ? m_w.host().link<BasisChooser>(kBasisWindow) : nullptr;
+    if (!chooser)
         return;
-    }
     chooser->setPurpose(1, m_chkIsWet);
     m_w.host().show(kBasisWindow, true);
     // Cancel leaves the check box as it was, and the sums run on that basis.

@@ -77,10 +77,12 @@ void BuilderIntakePage::buildType(FormBuilder &page, int n)
         fields.lastLabel()->setObjectName(arrayName(QStringLiteral("lblMCF"), 6));
     }
     page.label(QStringLiteral("LbLDataSource"), 3 + n, QString());
-    m_w.noteBox(page, 3 + n, QString::fromLatin1(kTypes[n].comments), 5);
-    // A typed rate is written when its box is left.
-    connect(ControlEvents::of(m_rate[n]), &ControlEvents::LostFocus, this,
-            [this] { m_w.command(QStringLiteral("SaveIntakeControls"), [this] { SaveIntakeControls(); }); });
+    QWidget *comments = m_w.noteBox(page, 3 + n, QString::fromLatin1(kTypes[n].comments), 5);
+    // A typed rate is written when its box is left; so are the rates when the sediment comment is.
+    auto save = [this] { m_w.command(QStringLiteral("SaveIntakeControls"), [this] { SaveIntakeControls(); }); };
+    connect(ControlEvents::of(m_rate[n]), &ControlEvents::LostFocus, this, save);
+    if (n == 4)
+        connect(ControlEvents::of(comments), &ControlEvents::LostFocus, this, save);
 }
 
 void BuilderIntakePage::showUnits()
@@ -231,7 +233,7 @@ void BuilderIntakePage::SaveIntake(int type)
             rs->setField(QStringLiteral("Units_CF"), 1);
             rs->setField(QStringLiteral("Measured_CF"), 1);
             rs->setField(QStringLiteral("CategoryID"), 0);
-            rs->setField(QStringLiteral("IntakeEquation"), QString());
+            rs->setField(QStringLiteral("IntakeEquation"), QStringLiteral(""));
         }
         rs->setField(QStringLiteral("AdjustedRate"), m_adjustedRate);
         rs->setField(QStringLiteral("Units"), m_units_);
@@ -296,21 +298,58 @@ void BuilderIntakePage::selectFromDatabase()
     // The rate dialogs compute and write the row, then call the page's load.
     Session &s = m_w.session();
     const int n = currentSubPage();
-    RecordRequest request;
     if (n == 3) {
+        RecordRequest request;
         request.recordId = 4;
         request.mode = QStringLiteral("Write");
         request.table = QStringLiteral("tblSoilIngestion");
         request.keyField = QStringLiteral("SoilIngestionID");
         request.isSelection = true;
-        m_w.openWindow(QStringLiteral("frmSelect_SoilIngestion"), request, true, QStringLiteral("The soil ingestion list"));
-        return;
+        m_w.openWindow(QStringLiteral("frmSelect_SoilIngestion"), request, true);
+    } else if (n < 3) {
+        const QString taxon = ControlValue::text(m_w.findChild<QWidget *>(QStringLiteral("cboTaxon")));
+        // An empty taxon is "not found", which is no number: the command fails and is reported.
+        const qint32 taxonId = vb::CLng(s.Lookup(QStringLiteral("tblTaxon"), QStringLiteral("TaxonID"),
+                                                 QStringLiteral("Description='%1'").arg(taxon)));
+        auto rs = s.gDB->OpenRecordset(
+            QStringLiteral("SELECT tblCategory.CategoryID, tblCategory.Description FROM tblCategory INNER JOIN tblIntakeModel ON "
+                           "tblCategory.CategoryID = tblIntakeModel.CategoryID Where (tblIntakeModel.IntakeTypeID = %1) And "
+                           "((tblIntakeModel.TaxonID) = %2) ORDER BY tblCategory.Description").arg(n + 1).arg(taxonId),
+            RecordsetType::Snapshot);
+        const bool none = rs->BOF() && rs->EOF_();
+        rs->Close();
+        if (none) {
+            s.resetCursor();
+            s.msgBox(QStringLiteral("No data available"), QString(), MsgIcon::Information);
+            return;
+        }
+        PrS_LoadSelectIntakeScreen(n);
     }
-    if (!(vb::Val(ControlValue::text(m_w.findChild<QWidget *>(QStringLiteral("txtWeightWeight")))) > 0)) {
-        s.msgBox(QStringLiteral("Weight not selected. Please select weight and then continue."), QString(), MsgIcon::Warning);
-        return;
+    arrayItem<QWidget>(&m_w, QStringLiteral("cmdMoreInfo"), 3)->setVisible(true);
+    if (n < 3) {
+        for (QWidget *w : {static_cast<QWidget *>(m_ucf[n]), static_cast<QWidget *>(m_measureCF[n]),
+                           arrayItem<QWidget>(&m_w, QStringLiteral("lblUCF"), n), arrayItem<QWidget>(&m_w, QStringLiteral("lblMCF"), 3 + n)})
+            w->setVisible(true);
     }
-    request.recordId = n;
-    request.mode = QStringLiteral("Read");
-    m_w.openWindow(QStringLiteral("frmSelect_Intake"), request, true, QStringLiteral("The intake rate list"));
+}
+
+void BuilderIntakePage::PrS_LoadSelectIntakeScreen(int n)
+{
+    Session &s = m_w.session();
+    guarded(s, {ErrForm::Shared, QStringLiteral("PrS_LoadSelectIntakeScreen")}, [&] {
+        if (!(vb::Val(ControlValue::text(m_w.findChild<QWidget *>(QStringLiteral("txtWeightWeight")))) > 0)) {
+            s.msgBox(QStringLiteral("Weight not selected. Please select weight and then continue."), QString(), MsgIcon::Warning);
+            return;
+        }
+        const qint32 species = s.gScenario->SpeciesID;
+        const QVariant taxon = species != 0
+            ? s.Lookup(QStringLiteral("tblSpecies"), QStringLiteral("TaxonID"), QStringLiteral("SpeciesID = %1").arg(species))
+            : s.Lookup(QStringLiteral("tblTaxon"), QStringLiteral("TaxonID"),
+                       QStringLiteral("Description='%1'").arg(ControlValue::text(m_w.findChild<QWidget *>(QStringLiteral("cboTaxon")))));
+        RecordRequest request;
+        request.recordId = n;
+        request.selectedId = vb::CLng(taxon);
+        request.mode = QStringLiteral("Read");
+        m_w.openWindow(QStringLiteral("frmSelect_Intake"), request, true);
+    });
 }

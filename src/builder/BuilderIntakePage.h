@@ -36,6 +36,8 @@ private:
     bool IsIntakeUserEntered(int type);
     void enterHypothetical();
     void selectFromDatabase();
+    //! Opens the intake dialog for sub-page n once a weight stands on the weight page.
+    void PrS_LoadSelectIntakeScreen(int n);
     void subPageChanged(int index);
     qint32 &dataSourceOf(int type);
 

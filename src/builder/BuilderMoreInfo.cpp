@@ -2,6 +2,7 @@
 #include "BuilderMoreInfo.h"
 
 #include "ControlValue.h"
+#include "DataSourceText.h"
 #include "Session.h"
 #include "Utilities.h"
 #include "clsScenario.h"
@@ -44,7 +45,7 @@ bool intakeRecord(frmZOB &w, int sub)
         // A species without a taxon is looked at as a mammal.
         RecordRequest request = readOnly(sub, {}, {});
         request.selectedId = taxon.toString() == kNotFound ? 2 : taxon.toInt();
-        w.openWindow(QStringLiteral("frmSelect_Intake"), request, true, QStringLiteral("The intake rate list"));
+        w.openWindow(QStringLiteral("frmSelect_Intake"), request, true);
         return true;
     }
     if (sub == 3) {
@@ -52,8 +53,7 @@ bool intakeRecord(frmZOB &w, int sub)
                              QStringLiteral("ScenarioID = %1 AND IntakeTypeID = 4").arg(sc.SID)).toInt();
         if (sc.SoilID == 0)
             return false;
-        w.openWindow(QStringLiteral("frmDE_SoilIngestion"), readOnly(sc.SoilID, {}, {}), false,
-                     QStringLiteral("The soil ingestion record"));
+        w.openWindow(QStringLiteral("frmDE_SoilIngestion"), readOnly(sc.SoilID, {}, {}), false);
         return true;
     }
     return false;
@@ -70,7 +70,7 @@ void showMoreInformation(frmZOB &w, int page, int intakePage)
             return;
         if (sc.SpeciesID != 0) {
             w.openWindow(QStringLiteral("frmDE_Species"), readOnly(sc.SpeciesID, QStringLiteral("SpeciesID"), QStringLiteral("tblSpecies")),
-                         false, QStringLiteral("The species record"));
+                         false);
             return;
         }
         break;
@@ -79,7 +79,7 @@ void showMoreInformation(frmZOB &w, int page, int intakePage)
             return;
         if (sc.WeightID != 0) {
             w.openWindow(QStringLiteral("frmDE_Weight"), readOnly(sc.WeightID, QStringLiteral("WeightID"), QStringLiteral("tblWeight")),
-                         false, QStringLiteral("The weight record"));
+                         false);
             return;
         }
         break;
@@ -87,14 +87,16 @@ void showMoreInformation(frmZOB &w, int page, int intakePage)
         if (refused(s, sc.Diet_DataSource, "diet"))
             return;
         if (sc.DietID != 0) {
-            w.openWindow(QStringLiteral("frmSelect_Diet"), readOnly(sc.DietID, {}, {}), false, QStringLiteral("The diet record"));
+            w.openWindow(QStringLiteral("frmSelect_Diet"), readOnly(sc.DietID, {}, {}), false);
             return;
         }
         break;
     case 3: {
         arrayItem<QWidget>(&w, QStringLiteral("cmdMoreInfo"), 3)->setVisible(true);
         const QString source = ControlValue::text(arrayItem<QWidget>(&w, QStringLiteral("LbLDataSource"), 3 + intakePage));
-        if (source == QLatin1String("Data Source: User entered  ")) {
+        // A typed rate shows the words of data source 2, whatever the database calls that source.
+        if (source == QLatin1String("Data Source: User entered  ")
+            || source == QStringLiteral("Data Source: ") + GetDataSourceText(s, 2) + QStringLiteral("  ")) {
             s.msgBox(QStringLiteral("More Information not available for user entered data."), QString(), MsgIcon::Information);
             return;
         }

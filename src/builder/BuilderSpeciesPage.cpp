@@ -35,7 +35,6 @@ BuilderSpeciesPage::BuilderSpeciesPage(frmZOB &window, FormBuilder &page, FormBu
         {1, QStringLiteral("Enter Hypothetical Data"), [this] { enterHypothetical(); }}});
     commands.stretch();
     m_w.pageButtons(commands, QStringLiteral("cmdMoreInfo"), {{0, QStringLiteral("More Information..."), [this] { m_w.cmdMoreInfo_Click(); }}});
-    page.stretch();
     connect(m_txtCommonName, &QLineEdit::textChanged, this, &BuilderSpeciesPage::namesChanged);
     connect(m_txtLatinName, &QLineEdit::textChanged, this, &BuilderSpeciesPage::namesChanged);
     connect(m_cboTaxon, &QComboBox::currentTextChanged, this, &BuilderSpeciesPage::namesChanged);
@@ -130,7 +129,7 @@ void BuilderSpeciesPage::selectFromDatabase()
     request.table = QStringLiteral("tblWildlife");
     request.mode = QStringLiteral("ReadOnly");
     request.entry = QStringLiteral("ZOB");
-    m_w.openWindow(QStringLiteral("frmSelect_Species"), request, true, QStringLiteral("The species list"));
+    m_w.openWindow(QStringLiteral("frmSelect_Species"), request, true);
 }
 
 void BuilderSpeciesPage::clearSpeciesControls()

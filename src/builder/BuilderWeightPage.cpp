@@ -36,7 +36,6 @@ BuilderWeightPage::BuilderWeightPage(frmZOB &window, FormBuilder &page) : QObjec
         {3, QStringLiteral("Enter Hypothetical Data"), [this] { enterHypothetical(); }}});
     commands.stretch();
     m_w.pageButtons(commands, QStringLiteral("cmdMoreInfo"), {{1, QStringLiteral("More Information..."), [this] { m_w.cmdMoreInfo_Click(); }}});
-    page.stretch();
 }
 
 void BuilderWeightPage::load()
@@ -110,7 +109,7 @@ void BuilderWeightPage::selectFromDatabase()
     arrayItem<QWidget>(&m_w, QStringLiteral("cmdMoreInfo"), 1)->setVisible(true);
     RecordRequest request;
     request.mode = QStringLiteral("Read");
-    m_w.openWindow(QStringLiteral("frmSelect_Weight"), request, true, QStringLiteral("The weight list"));
+    m_w.openWindow(QStringLiteral("frmSelect_Weight"), request, true);
 }
 
 void BuilderWeightPage::enterHypothetical()

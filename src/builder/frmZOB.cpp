@@ -5,6 +5,7 @@
 #include "BuilderDietPage.h"
 #include "BuilderIntakePage.h"
 #include "BuilderMoreInfo.h"
+#include "BuilderScenarioRows.h"
 #include "BuilderSpeciesPage.h"
 #include "BuilderWeightPage.h"
 #include "Calculations.h"
@@ -19,11 +20,11 @@
 #include "Session.h"
 #include "Utilities.h"
 #include "VbFormat.h"
+#include "WindowAvailable.h"
 #include "clsDietItem.h"
 #include "clsProject.h"
 
 #include <QCoreApplication>
-#include <QFile>
 #include <QLabel>
 #include <QLayout>
 #include <QMenuBar>
@@ -49,7 +50,9 @@ frmZOB::frmZOB(Session &session, QtWindowHost &host) : ZobWindow(session, host, 
     FormBuilder status = header.frame(QStringLiteral("fraStatus"), QStringLiteral("Wildlife Scenario"));
     FormBuilder description = header.column(2, QStringLiteral("fraDescriptionColumn"))
                                   .frame(QStringLiteral("fraScenarioDescription"), QStringLiteral("Scenario Description"));
-    noteBox(description, 8, QString(), 3)->setToolTip(QStringLiteral("Double click to enlarge for data entry"));
+    QPlainTextEdit *scenarioText = noteBox(description, 8, QString(), 3);
+    scenarioText->setToolTip(QStringLiteral("Double click to enlarge for data entry"));
+    scenarioText->setMaximumHeight(scenarioText->minimumHeight());
     m_ssTabSB = b.tabs(QStringLiteral("ssTabSB"));
     FormBuilder species = b.page(m_ssTabSB, QStringLiteral("Species"));
     m_species = new BuilderSpeciesPage(*this, species, status);
@@ -186,21 +189,7 @@ void frmZOB::loadEditedScenario()
     Recordset &row = m_dcScenario->current();
     auto field = [&row](const char *name) { return row.field(QString::fromLatin1(name)); };
     m_species->showNames(field("Common").toString(), field("Latin").toString(), field("Taxon").toString());
-    sc.Identifier1 = field("Common").toString();
-    sc.SpeciesID = field("SpeciesID").toInt();
-    sc.Species_DataSource = field("SpeciesDataSourceID").toInt();
-    sc.Wt_DataSource = field("WtDataSourceID").toInt();
-    sc.WeightID = field("WeightID").toInt();
-    sc.WtEstimator = static_cast<qint16>(field("WtEstimator").toInt());
-    sc.WtStatus = static_cast<qint16>(field("WtStatus").toInt());
-    sc.WtSex = field("WtSex").toString();
-    sc.Weight = field("Weight").toFloat();
-    sc.Diet_DataSource = field("DietDataSourceID").toInt();
-    sc.DietID = field("DietID").toInt();
-    sc.DietType = static_cast<qint16>(field("DietType").toInt());
-    sc.Diet_Season = field("DietSeason").toString();
-    sc.Diet_Sex = field("DietSex").toString();
-    sc.Diet_Habitat = field("DietHabitat").toString();
+    readScenarioRow(sc, row);
     m_diet->setHead({sc.Diet_Season, sc.Diet_Sex, sc.Diet_Habitat, GetAvgTrophicLevel(s, sc.SID, QStringLiteral("tblWildlifeDietItems")),
                      ControlValue::text(m_notes[9])});
     ControlValue::setText(m_notes[0], field("SpeciesComments").toString());
@@ -208,17 +197,7 @@ void frmZOB::loadEditedScenario()
     ControlValue::setText(m_notes[2], field("DietComments").toString());
     const QVariant description = s.Lookup(QStringLiteral("tblScenario"), QStringLiteral("Comments"), QStringLiteral("ScenarioID = %1").arg(sc.SID));
     ControlValue::setText(m_notes[8], description.toString() == kNotFound ? QString() : description.toString());
-    qint32 *sources[5] = {&sc.Air_DataSource, &sc.WAT_DataSource, &sc.FMR_DataSource, &sc.Soil_DataSource, &sc.Sediment_DataSource};
-    qint32 *categories[4] = {&sc.AirCategoryID, &sc.WatCategoryID, &sc.FMRCategoryID, &sc.SoilCategoryID};
-    Recordset *rs = m_dcScenario->recordset();
-    for (int type = 1; type <= 5; ++type) {
-        rs->FindFirst(QStringLiteral("IntakeTypeID = %1").arg(type));
-        if (rs->NoMatch())
-            continue;
-        *sources[type - 1] = rs->field(QStringLiteral("DataSourceID")).toInt();
-        if (type <= 4)
-            *categories[type - 1] = rs->field(QStringLiteral("CategoryID")).toInt();
-    }
+    readIntakeSources(sc, *m_dcScenario->recordset());
 }
 
 void frmZOB::Form_Activate()
@@ -295,17 +274,22 @@ void frmZOB::PuS_SetTab(int index)
 
 int frmZOB::currentPage() const { return m_ssTabSB->currentIndex(); }
 
-QString frmZOB::note(int index) const { return index >= 0 && index < 10 ? ControlValue::text(m_notes[index]) : QString(); }
+QString frmZOB::note(int index) const
+{
+    if (index < 0 || index >= 10)
+        return QString();
+    // The notes are stored with the line ends they were written with (CR LF).
+    QString text = ControlValue::text(m_notes[index]);
+    return text.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(QLatin1Char('\n'), QStringLiteral("\r\n"));
+}
 QString frmZOB::dietSeason() const { return m_diet->season(); }
 QString frmZOB::dietHabitat() const { return m_diet->habitat(); }
 QString frmZOB::dietSex() const { return m_diet->sex(); }
 
-bool frmZOB::openWindow(const QString &name, const RecordRequest &request, bool modal, const QString &what)
+bool frmZOB::openWindow(const QString &name, const RecordRequest &request, bool modal)
 {
-    if (!QtWindowHost::isRegistered(name)) {
+    if (!windowAvailable(session(), name)) {
         session().resetCursor();
-        session().msgBox(what + QStringLiteral(" is not part of this version of the program; it comes with a later one."),
-                         QString(), MsgIcon::Information);
         return false;
     }
     if (ZobWindow *w = host().form(name))
@@ -396,55 +380,24 @@ void frmZOB::calculations()
 
 bool frmZOB::WildlifeDietItemsExist()
 {
-    bool exist = false;
-    guarded(session(), {ErrForm::Qualified, QStringLiteral("frmZOB.WildlifeDietItemsExist")}, [&] {
-        // Any item of any scenario will do: the table as a whole is asked.
-        auto rs = session().gDB->OpenRecordset(QStringLiteral("tblWildlifeDietItems"), RecordsetType::Snapshot);
-        exist = !(rs->BOF() && rs->EOF_());
-        rs->Close();
-        if (!exist)
-            session().msgBox(QStringLiteral("No Diet Items exist in this scenario. Dietary calculations will not be done."), QString(),
-                             MsgIcon::Warning);
-    });
-    return exist;
+    return anyDietItems(session());
 }
 
 bool frmZOB::ClearCurrentScenario()
 {
     Session &s = session();
-    clsScenario &sc = *s.gScenario;
     bool cleared = false;
     guarded(s, {ErrForm::Qualified, QStringLiteral("frmZOB.ClearCurrentScenario")}, [&] {
         if (s.msgBox(QStringLiteral("Do you want to overwrite the existing file? "), QString(), MsgIcon::Question, MsgButtons::YesNo)
             != MsgAnswer::Yes)
             return;
-        s.gDB->Execute(QStringLiteral("DELETE tblWildlifeDietItems.* From tblWildlifeDietItems WHERE tblWildlifeDietItems.ScenarioID = %1").arg(sc.SID));
+        resetScenarioRows(s);
         m_diet->refreshItems();
-        s.gDB->Execute(QStringLiteral(
-            "UPDATE tblIntakeZOB SET tblIntakeZOB.IntakeModelID = 0, tblIntakeZOB.SoilIngestionID = 0, tblIntakeZOB.CategoryID = 0, "
-            "tblIntakeZOB.BaseRate = 0, tblIntakeZOB.AdjustedRate = 0, tblIntakeZOB.Units = 'm3/day', tblIntakeZOB.Units_CF = 1, "
-            "tblIntakeZOB.Measured_CF = 1, tblIntakeZOB.IntakeEquation = ' ', tblIntakeZOB.Comments = ' ', "
-            "tblIntakeZOB.Derivation = 'Estimated', tblIntakeZOB.IntakeMeasuredID = 0, tblIntakeZOB.EstimatorID = 1, "
-            "tblIntakeZOB.ZOB_SpeciesID = 0, tblIntakeZOB.DataSourceID = 6, tblIntakeZOB.AssignedSpecies = ' ' "
-            "WHERE tblIntakeZOB.ScenarioID = %1").arg(sc.SID), true);
         m_weight->clear();
         m_diet->clear();
         m_intake->clear();
         // The scenario loses its file; the next save names a new one.
-        if (!sc.FileName.isEmpty())
-            QFile::remove(Session::join(sc.FilePath, sc.FileName));
-        sc.FileName.clear();
-        sc.WeightID = 0;
-        sc.Weight = 0;
-        sc.WtEstimator = 0;
-        sc.WtSex = QStringLiteral("unknown");
-        sc.WtStatus = 2;
-        sc.DietID = 0;
-        sc.DietType = 0;
-        sc.Wt_DataSource = 6;
-        sc.Diet_DataSource = 6;
-        for (qint32 *source : {&sc.Air_DataSource, &sc.WAT_DataSource, &sc.FMR_DataSource, &sc.Soil_DataSource, &sc.Sediment_DataSource})
-            *source = 6;
+        forgetScenarioChoices(s);
         for (int i = 1; i <= 7; ++i)
             ControlValue::clear(m_notes[i]);
         cleared = true;

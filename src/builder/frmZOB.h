@@ -77,8 +77,8 @@ public:
         return commandButtons(b, name, buttons);
     }
     //! Opens another window by name for a record; where that window is not part of this version of
-    //! the program the user is told so, with what (e.g. "The species list"), and false is returned.
-    bool openWindow(const QString &name, const RecordRequest &request, bool modal, const QString &what);
+    //! the program the user is told so in a box, and false is returned.
+    bool openWindow(const QString &name, const RecordRequest &request, bool modal);
 
 private:
     void buildHeader(FormBuilder &b);
