@@ -49,7 +49,6 @@ frmSelect_Species::frmSelect_Species(Session &session, QtWindowHost &host)
     FormBuilder taxa = bottom.frame(QStringLiteral("fraTaxon"), QStringLiteral("Taxon"), true);
     for (int i = 0; i < 4; ++i) {
         QRadioButton *opt = taxa.option(QStringLiteral("optSpec"), i, QString::fromLatin1(kTaxa[i]));
-        m_optSpec.append(opt);
         connect(opt, &QRadioButton::clicked, this,
                 [this, i] { runCommand(QStringLiteral("optSpec_Click"), [this, i] { bind(taxonStatement(i + 1)); }); });
     }
