@@ -28,8 +28,13 @@ void ActiveReport::prepare()
 {
     m_data = {};
     ActiveReport_ReportStart();
-    if (recordSource.isEmpty())
-        return;
+    if (!recordSource.isEmpty())
+        read();
+    dataOpened();
+}
+
+void ActiveReport::read()
+{
     auto rs = m_session.gDB->OpenRecordset(recordSource, RecordsetType::Snapshot);
     m_data.columns = rs->fieldNames();
     while (!rs->EOF_()) {

@@ -64,6 +64,8 @@ public:
 
     //! Runs before layout: sets recordSource and fills unbound items.
     virtual void ActiveReport_ReportStart() {}
+    //! Runs once the data control's rows are read: fills the items that depend on them.
+    virtual void dataOpened() {}
 
     const QString &name() const { return m_name; }
     //! What the report is about (a scenario or project id); a preview lays the report out again
@@ -73,7 +75,8 @@ public:
     QString caption;
     Session &session() const { return m_session; }
 
-    //! Runs the start routine and reads the data control's statement (no statement: no rows).
+    //! Runs the start routine, reads the data control's statement (no statement: no rows) and then
+    //! runs dataOpened.
     void prepare();
     const ReportData &data() const { return m_data; }
 
@@ -101,6 +104,8 @@ protected:
     Session &m_session;
 
 private:
+    void read();
+
     QString m_name;
     ReportData m_data;
 };
