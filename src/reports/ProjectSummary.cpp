@@ -8,7 +8,7 @@
 
 
 namespace {
-const WindowRegistration<ReportWindowOf<ProjectSummary>> reg(QStringLiteral("ProjectSummary"));
+const ReportRegistration<ProjectSummary> reg(QStringLiteral("ProjectSummary"));
 
 //! The project's heads as caption and column pairs, two to a row where the second is given.
 struct Head {

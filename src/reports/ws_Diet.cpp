@@ -70,5 +70,5 @@ public:
         setText(QStringLiteral("Field24"), text.isNull() ? QString() : vb::CStr(text));
     }
 };
-const WindowRegistration<ReportWindowOf<ws_Diet>> reg(QStringLiteral("ws_Diet"));
+const ReportRegistration<ws_Diet> reg(QStringLiteral("ws_Diet"));
 }  // namespace

@@ -77,5 +77,5 @@ public:
         setText(QStringLiteral("fldSource"), source.isNull() ? QString() : GetDataSourceText(m_session, vb::CLng(source)));
     }
 };
-const WindowRegistration<ReportWindowOf<ws_DietItems>> reg(QStringLiteral("ws_DietItems"));
+const ReportRegistration<ws_DietItems> reg(QStringLiteral("ws_DietItems"));
 }  // namespace

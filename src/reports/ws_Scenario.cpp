@@ -27,5 +27,5 @@ public:
                                       "ScenarioDescription FROM tblScenario WHERE tblScenario.ScenarioID  = ") + subject();
     }
 };
-const WindowRegistration<ReportWindowOf<ws_Scenario>> reg(QStringLiteral("ws_Scenario"));
+const ReportRegistration<ws_Scenario> reg(QStringLiteral("ws_Scenario"));
 }  // namespace

@@ -51,5 +51,5 @@ public:
         setText(QStringLiteral("fldSource"), source.isNull() ? QString() : GetDataSourceText(m_session, vb::CLng(source)));
     }
 };
-const WindowRegistration<ReportWindowOf<ws_Species>> reg(QStringLiteral("ws_Species"));
+const ReportRegistration<ws_Species> reg(QStringLiteral("ws_Species"));
 }  // namespace

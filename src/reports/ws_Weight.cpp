@@ -52,5 +52,5 @@ public:
             + subject() + QStringLiteral(" ORDER BY qryReference.Reference");
     }
 };
-const WindowRegistration<ReportWindowOf<ws_Weight>> reg(QStringLiteral("ws_Weight"));
+const ReportRegistration<ws_Weight> reg(QStringLiteral("ws_Weight"));
 }  // namespace

@@ -24,14 +24,14 @@ struct Column {
     const char *format;
     bool right;
 };
-const Column kColumns[] = {{"Diet Item", "Name", 0, 110, "", false},
-                           {"Component", "Component", 114, 56, "", false},
-                           {"Life Stage", "LifeStage", 174, 54, "", false},
-                           {"Gross Energy (kcal/g)", "GE", 232, 44, "", true},
-                           {"Assimilation Efficiency (0-100)", "Mean", 280, 56, "##0.0", true},
-                           {"Metabolizable Energy (kcal/g)", "ME", 340, 56, "#,##0.00", true},
-                           {"Proportion of Diet (0-1)", "DietProportion", 400, 52, "#,##0.00", true},
-                           {"Itemized Daily Intake (g/d)", "Daily_Intake", 456, 67, "#,##0.00", true}};
+const Column kColumns[] = {{"Diet Item", "Name", 0, 100, "", false},
+                           {"Component", "Component", 104, 52, "", false},
+                           {"Life Stage", "LifeStage", 160, 50, "", false},
+                           {"Gross Energy (kcal/g)", "GE", 214, 42, "", true},
+                           {"Assimilation Efficiency (0-100)", "Mean", 260, 62, "##0.0", true},
+                           {"Metabolizable Energy (kcal/g)", "ME", 326, 64, "#,##0.00", true},
+                           {"Proportion of Diet (0-1)", "DietProportion", 394, 56, "#,##0.00", true},
+                           {"Itemized Daily Intake (g/d)", "Daily_Intake", 454, 69, "#,##0.00", true}};
 
 //! The numbered explanations: number, label name, and the design text (empty: filled at start).
 const std::tuple<const char *, const char *, const char *> kSteps[] = {
@@ -66,13 +66,14 @@ public:
         for (const auto &[number, name, text] : kSteps) {
             h.items << bold(label({}, QString::fromLatin1(number), 0, y, 14))
                     << label(QString::fromLatin1(name), QString::fromLatin1(text), 18, y, kReportWidth - 18);
-            y += 14;
+            y += 17;
         }
-        h.height = y + 8;
+        h.height = y + 6;
 
         repeatHeadOverAllRows(*this);
         for (const Column &c : kColumns) {
-            ReportItem head = small(bold(label({}, QString::fromLatin1(c.head), c.x, 0, c.w, 30)));
+            ReportItem head = bold(label({}, QString::fromLatin1(c.head), c.x, 0, c.w, 30));
+            head.size = 7.5;
             head.align = c.right ? Qt::AlignRight : Qt::AlignLeft;
             groupHeader.items << head;
             detail.items << small(field(QStringLiteral("fld") + QString::fromLatin1(c.column), QString::fromLatin1(c.column), c.x, 1, c.w,
@@ -129,5 +130,5 @@ private:
         setText(QStringLiteral("fldLastSaved"), saved.isNull() ? QString() : vb::vbFormat(saved, QStringLiteral("mmmm d, yyyy")));
     }
 };
-const WindowRegistration<ReportWindowOf<ws_calc>> reg(QStringLiteral("ws_calc"));
+const ReportRegistration<ws_calc> reg(QStringLiteral("ws_calc"));
 }  // namespace

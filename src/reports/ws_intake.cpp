@@ -5,7 +5,7 @@
 #include "ReportWindow.h"
 
 namespace {
-const WindowRegistration<ReportWindowOf<ws_intake>> reg(QStringLiteral("ws_intake"));
+const ReportRegistration<ws_intake> reg(QStringLiteral("ws_intake"));
 constexpr double kSize = 7.5;
 
 //! The columns of the intake rows: head, field name, column, x, width, pattern, right-aligned.

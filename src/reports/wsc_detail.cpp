@@ -93,5 +93,5 @@ private:
         }
     }
 };
-const WindowRegistration<ReportWindowOf<wsc_detail>> reg(QStringLiteral("wsc_detail"));
+const ReportRegistration<wsc_detail> reg(QStringLiteral("wsc_detail"));
 }  // namespace
