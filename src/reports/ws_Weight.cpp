@@ -1,9 +1,13 @@
 // SPDX-License-Identifier: MIT
 // The weight report of the open scenario: the body weight chosen and the weight record behind it,
 // with the record's references and supporting information.
+#include "Database.h"
 #include "QtWindowHost.h"
+#include "Recordset.h"
 #include "ReportDesign.h"
 #include "ReportWindow.h"
+#include "Session.h"
+#include "VbFormat.h"
 
 namespace {
 class ws_Weight : public ScenarioReport {
@@ -12,11 +16,10 @@ public:
     {
         caption = QStringLiteral("Wildlife Weight");
         addReportHeading(*this, QStringLiteral("Report Type:  WEIGHT"), QStringLiteral("Scenario_FileName"), QStringLiteral("Scenario_LastSaved"));
-        // The status prints its id, as the record holds it.
         const double y = addCaptioned(reportHeader, {{"Wildlife Species:", "fldCommon", "Common"}, {"Body Weight(g):", "fldWeight", "Weight", "#,##0.0"},
                                                      {"Gender:", "fldSex", "WtSex"}, {"Lifestage:", "fldLifestage", "Lifestage"},
                                                      {"Season:", "fldSeason", "Season"}, {"Habitat:", "fldHabitat", "Habitat"},
-                                                     {"Status:", "fldStatus", "WtStatus"}, {"Estimator:", "fldEstimator", "Estimator"},
+                                                     {"Status:", "fldStatus", ""}, {"Estimator:", "fldEstimator", "Estimator"},
                                                      {"Source:", "fldSource", "DataSource"}, {"Comments:", "fldComments", "WtComments"}},
                                       4);
         reportHeader.height = y + 10;
@@ -50,6 +53,15 @@ public:
             "ON tblMonth_1.MonthID = tblWeight.EndMonthID) ON tblEstimator.EstimatorID = tblWildlife.WtEstimator) ON "
             "tblStatus.StatusID = tblWildlife.WtStatus WHERE tblScenario.ScenarioID = ")
             + subject() + QStringLiteral(" ORDER BY qryReference.Reference");
+    }
+
+    //! The status prints the scenario's status id, not its description.
+    void dataOpened() override
+    {
+        auto rs = m_session.gDB->OpenRecordset(QStringLiteral("SELECT WtStatus FROM tblWildlife WHERE ScenarioID = ") + subject(),
+                                               RecordsetType::Snapshot);
+        const QVariant status = rs->EOF_() ? QVariant() : rs->field(0);
+        setText(QStringLiteral("fldStatus"), status.isNull() ? QString() : vb::CStr(status));
     }
 };
 const ReportRegistration<ws_Weight> reg(QStringLiteral("ws_Weight"));
