@@ -62,6 +62,12 @@ ReportItem &ActiveReport::item(const QString &name)
     throw VbError(2465, QStringLiteral("Report '%1' has no control named '%2'").arg(m_name, name));
 }
 
+QHash<QString, ReportFactory> &reportDesigns()
+{
+    static QHash<QString, ReportFactory> designs;
+    return designs;
+}
+
 ReportItem label(const QString &name, const QString &text, double x, double y, double w, double h)
 {
     ReportItem i;

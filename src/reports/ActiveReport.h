@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QHash>
 #include <QList>
 #include <QString>
 #include <QStringList>
@@ -109,6 +110,11 @@ private:
     QString m_name;
     ReportData m_data;
 };
+
+//! Makes a report design for a session.
+using ReportFactory = std::function<std::unique_ptr<ActiveReport>(Session &)>;
+//! The report designs by name; each adds itself as it registers (ReportRegistration).
+QHash<QString, ReportFactory> &reportDesigns();
 
 //! Design helpers: a label, a bound field, a label and field side by side, a rule.
 ReportItem label(const QString &name, const QString &text, double x, double y, double w, double h = 12);

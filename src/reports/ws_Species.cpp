@@ -7,6 +7,8 @@
 #include "ReportWindow.h"
 #include "VbFormat.h"
 
+#include <QDir>
+
 namespace {
 class ws_Species : public ScenarioReport {
 public:
@@ -31,10 +33,11 @@ public:
         addPageFooter(*this);
     }
 
+    //! The disk file joins folder and name with the platform's separator.
     void ActiveReport_ReportStart() override
     {
         recordSource = QStringLiteral(
-            "SELECT [Scenario_FilePath] & '\\' & [Scenario_FileName] AS File, tblUser_1.Name AS CreatedBy, tblUser.Name AS "
+            "SELECT [Scenario_FilePath] & '%1' & [Scenario_FileName] AS File, tblUser_1.Name AS CreatedBy, tblUser.Name AS "
             "ModifiedBy, tblScenario.Scenario_LastSaved, tblSpecies.Common, tblSpecies.Latin, tblWildlife.SpeciesComments, "
             "tblWildlife.SpeciesDataSourceID, tblSpecies.Distribution, tblSpecies.Habitat, tblSpecies.GenDiet, tblSpecies.Related, "
             "qryReference.Reference, tblWildlife.ScenarioID FROM ((tblScenario LEFT JOIN tblUser ON tblScenario.Scenario_ModifiedBy "
@@ -42,7 +45,7 @@ public:
             "(qryReference RIGHT JOIN ((tblSpecies RIGHT JOIN tblWildlife ON tblSpecies.SpeciesID = tblWildlife.SpeciesID) LEFT "
             "JOIN jtblSpeciesReference ON tblSpecies.SpeciesID = jtblSpeciesReference.SpeciesID) ON qryReference.ReferenceID = "
             "jtblSpeciesReference.ReferenceID) ON tblScenario.ScenarioID = tblWildlife.ScenarioID Where tblWildlife.ScenarioID = ")
-            + subject() + QStringLiteral(" ORDER BY qryReference.Reference;");
+            .arg(QDir::separator()) + subject() + QStringLiteral(" ORDER BY qryReference.Reference;");
     }
 
     void dataOpened() override

@@ -47,7 +47,7 @@ test('species, weight and diet reports of a seeded scenario', () => {
     const sid = toadScenario();
     const species = lines(open('ws_Species'));
     expect(species[1]).toBe('Report Type:  SPECIES Printed on: ' + fmt.vbFormat(new Date(), 'Short Date'));
-    expect(species).toContain('Disk File: ' + session.home + '\\toad.ZOB Last Saved: March 14, 2024');
+    expect(species).toContain('Disk File: ' + session.home + '/toad.ZOB Last Saved: March 14, 2024');
     expect(species).toContain('Common Name: American toad');
     expect(species).toContain('Source: Provisional');
     // One line (or more, wrapped) for each of the species' two references, in order.
