@@ -69,3 +69,11 @@ void repeatHeadOverAllRows(ActiveReport &report)
     report.groupHeader.groupField.clear();
     report.groupHeader.repeat = true;
 }
+
+void addReferenceList(ActiveReport &report, const QString &fieldName)
+{
+    repeatHeadOverAllRows(report);
+    report.groupHeader.height = addBlockHeading(report.groupHeader, QStringLiteral("lblReferences"), QStringLiteral("Reference(s)"), 0);
+    report.detail.items << field(fieldName, QStringLiteral("Reference"), 10, 1, kReportWidth - 10);
+    report.detail.height = 15;
+}

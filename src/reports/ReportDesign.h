@@ -34,5 +34,8 @@ double addCaptioned(ReportSection &section, std::initializer_list<Captioned> row
                     double width = kReportWidth, double captionWidth = 130, double size = 9);
 //! A bold heading of a block with a rule under it; returns the y under the rule.
 double addBlockHeading(ReportSection &section, const QString &name, const QString &text, double y);
+//! The references of a scenario report: one detail line per row of the statement (its column
+//! "Reference" in the named field) under the head "Reference(s)", repeated on each page they reach.
+void addReferenceList(ActiveReport &report, const QString &fieldName);
 //! A group head of one group over all rows, repeated on each page the rows run onto.
 void repeatHeadOverAllRows(ActiveReport &report);

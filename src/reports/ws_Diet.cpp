@@ -24,10 +24,7 @@ public:
                                         {"Estimated Average Trophic Level of Diet:", "fldAvgTL", ""}, {"Comments:", "fldComments", "DietComments"}},
                          y, 0, kReportWidth, 215);
         reportHeader.height = y + 10;
-        repeatHeadOverAllRows(*this);
-        groupHeader.height = addBlockHeading(groupHeader, QStringLiteral("lblReferences"), QStringLiteral("Reference(s)"), 0);
-        detail.items << field(QStringLiteral("fldReference"), QStringLiteral("Reference"), 10, 1, kReportWidth - 10);
-        detail.height = 15;
+        addReferenceList(*this, QStringLiteral("fldReference"));
         y = addBlockHeading(reportFooter, QStringLiteral("lblSupporting"), QStringLiteral("Supporting Information"), 12);
         y = addCaptioned(reportFooter, {{"Location:", "fldLocation", "Location"}, {"Region:", "fldRegion", "Region"},
                                         {"State/Province:", "Field24", ""}, {"Measure Term:", "fldTerm", "Term"},

@@ -21,10 +21,7 @@ public:
                                                {"Modified by:", "fldModifiedBy", "ModifiedBy"}, {"Comments:", "fldComments", "SpeciesComments"}},
                                 4);
         reportHeader.height = y + 10;
-        repeatHeadOverAllRows(*this);
-        groupHeader.height = addBlockHeading(groupHeader, QStringLiteral("lblReferences"), QStringLiteral("Reference(s)"), 0);
-        detail.items << field(QStringLiteral("fldReference"), QStringLiteral("Reference"), 10, 1, kReportWidth - 10);
-        detail.height = 15;
+        addReferenceList(*this, QStringLiteral("fldReference"));
         y = addBlockHeading(reportFooter, QStringLiteral("lblSupporting"), QStringLiteral("Supporting Information"), 12);
         y = addCaptioned(reportFooter, {{"Distribution:", "fldDistribution", "Distribution"}, {"Habitat:", "fldHabitat", "Habitat"},
                                         {"General Diet:", "fldGenDiet", "GenDiet"}, {"Related Species", "fldRelated", "Related"}},

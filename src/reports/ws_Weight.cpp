@@ -23,10 +23,7 @@ public:
                                                      {"Source:", "fldSource", "DataSource"}, {"Comments:", "fldComments", "WtComments"}},
                                       4);
         reportHeader.height = y + 10;
-        repeatHeadOverAllRows(*this);
-        groupHeader.height = addBlockHeading(groupHeader, QStringLiteral("lblReferences"), QStringLiteral("Reference(s)"), 0);
-        detail.items << field(QStringLiteral("reference"), QStringLiteral("Reference"), 10, 1, kReportWidth - 10);
-        detail.height = 15;
+        addReferenceList(*this, QStringLiteral("reference"));
         double f = addBlockHeading(reportFooter, QStringLiteral("lblSupporting"), QStringLiteral("Supporting Information"), 12);
         f = addCaptioned(reportFooter, {{"Location:", "fldLocation", "Location"}, {"Region:", "fldRegion", "Region"},
                                         {"Sample Size:", "fldSample", "Sample"}, {"Variance Type:", "fldVarianceType", "VarianceType"},
