@@ -6,7 +6,7 @@
 
 function newScenario(fields) {
     db.exec("Insert Into tblScenario (Scenario_Type, Scenario_FilePath, Scenario_FileName, Scenario_CreatedBy, Scenario_ModifiedBy, "
-            + "Scenario_LastSaved, Scenario_Identifier_1) Values ('Wildlife', '" + session.home + "', 'toad.ZOB', 'ann', 'bob', #3/14/2024#, 'Toad')");
+            + "Scenario_LastSaved, Scenario_Identifier_1) Values ('Wildlife', '/data/ann/Scenario', 'toad.ZOB', 'ann', 'bob', #3/14/2024#, 'Toad')");
     const sid = db.query('Select Max(ScenarioID) As M From tblScenario')[0].M;
     if (fields) {
         const names = Object.keys(fields), values = names.map(n => fields[n]);
@@ -47,7 +47,7 @@ test('species, weight and diet reports of a seeded scenario', () => {
     const sid = toadScenario();
     const species = lines(open('ws_Species'));
     expect(species[1]).toBe('Report Type:  SPECIES Printed on: ' + fmt.vbFormat(new Date(), 'Short Date'));
-    expect(species).toContain('Disk File: ' + session.home + '/toad.ZOB Last Saved: March 14, 2024');
+    expect(species).toContain('Disk File: /data/ann/Scenario/toad.ZOB Last Saved: March 14, 2024');
     expect(species).toContain('Common Name: American toad');
     expect(species).toContain('Source: Provisional');
     // One line (or more, wrapped) for each of the species' two references, in order.
