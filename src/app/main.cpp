@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "DataFolder.h"
-#include "HeadlessReport.h"
 #include "Diagnostics.h"
+#include "HeadlessReport.h"
 #include "QtServices.h"
 #include "QtWindowHost.h"
 #include "Session.h"

@@ -199,6 +199,7 @@ ReportLayout::Band ReportLayout::band(const ReportSection &section, const Report
                 out.head << d;
             }
             out.headHeight = c.headHeight;
+            out.headTop = c.headTop + it.y + shift;
         }
         pushed << shift + std::max(0.0, c.height - it.h);
         grown = std::max(grown, pushed.last());
@@ -207,10 +208,11 @@ ReportLayout::Band ReportLayout::band(const ReportSection &section, const Report
     return out;
 }
 
-
 ReportLayout::Band ReportLayout::subReport(ActiveReport &sub) const
 {
     Band out;
+    // Each band is kept on one page, a group head together with the band after it.
+    double keepFrom = -1;
     walk(sub, [&](const ReportSection &s, int row, int first, int last) { return band(s, sub.data(), row, first, last); },
          [&](const Band &b, int, int edge) {
              if (b.items.isEmpty() && b.height <= 0)
@@ -219,13 +221,21 @@ ReportLayout::Band ReportLayout::subReport(ActiveReport &sub) const
                  d.rect.translate(0, out.height);
                  out.items << d;
              }
-             out.keep << std::pair(out.height, out.height + b.height);
              if (edge == 1 && sub.groupHeader.repeat) {
                  out.head = b.items;
                  out.headHeight = b.height;
+                 out.headTop = out.height;
+             }
+             if (edge == 1) {
+                 keepFrom = out.height;
+             } else {
+                 out.keep << std::pair(keepFrom >= 0 ? keepFrom : out.height, out.height + b.height);
+                 keepFrom = -1;
              }
              out.height += b.height;
          });
+    if (keepFrom >= 0)
+        out.keep << std::pair(keepFrom, out.height);
     return out;
 }
 
@@ -320,11 +330,13 @@ void ReportLayout::place(const Band &b)
             }
         if (origin + bottom > m_bottom + 0.01 && origin + top > floor + 0.01) {
             m_start();
-            for (DrawnItem h : b.head) {
-                h.rect.translate(kMargin, m_y);
-                m_pages.last().items << h;
+            if (top > b.headTop + 0.01) {
+                for (DrawnItem h : b.head) {
+                    h.rect.translate(kMargin, m_y);
+                    m_pages.last().items << h;
+                }
+                m_y += b.headHeight;
             }
-            m_y += b.headHeight;
             floor = m_y;
             origin = m_y - top;
         }

@@ -55,9 +55,11 @@ public:
         double height = 0;
         //! Spans (top, bottom) that are not split between pages.
         QList<std::pair<double, double>> keep;
-        //! The head repeated on each further page, and its height.
+        //! The head repeated on each further page once the band has passed it, its height, and
+        //! where it first stands in the band.
         QList<DrawnItem> head;
         double headHeight = 0;
+        double headTop = 0;
     };
     //! The band of a section for a row (-1: none), summaries over rows [first, last).
     Band band(const ReportSection &section, const ReportData &data, int row, int first, int last) const;
