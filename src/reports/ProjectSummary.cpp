@@ -6,7 +6,6 @@
 #include "Session.h"
 #include "clsProject.h"
 
-
 namespace {
 const ReportRegistration<ProjectSummary> reg(QStringLiteral("ProjectSummary"));
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The overview report of the open scenario: who made and changed it, and its description.
-#include "ReportDesign.h"
 #include "QtWindowHost.h"
+#include "ReportDesign.h"
 #include "ReportWindow.h"
 
 namespace {
