@@ -57,3 +57,19 @@ public:
     virtual ~BasisChooser() = default;
     virtual void setPurpose(qint16 iOpt, QWidget *answer) = 0;
 };
+
+//! The text zoom window: shows the text of a box large, for reading or editing; true when the text
+//! was written back into the box.
+class TextZoom {
+public:
+    virtual ~TextZoom() = default;
+    virtual bool ZoomText(QWidget *target, const QString &caption, bool readOnly) = 0;
+};
+
+//! The intake dialog for the air, water or food row of the open scenario: set before it is shown,
+//! with the builder's intake page index (the intake type less one), the taxon and the caller's mode.
+class IntakeSelection {
+public:
+    virtual ~IntakeSelection() = default;
+    virtual void Filter(qint16 pageIndex, qint32 taxonId, const QString &mode) = 0;
+};
