@@ -111,7 +111,7 @@ test('dry basis: the caption of gross energy, ME and the itemized intake follow;
     expect(g.rows).toEqual([['Beetles', '5.', '80.0', '4.0', '0.3', '14.54'], ['Berries', '4.', '50.0', '2.0', '0.7', '33.92']]);
     w.toolbar().click('Close');
     expect(session.scenario.DietType).toBe(0);
-    expect(calc.GetMEAvg()).toBe(fmt.CSng('2.6'));
+    expect(fmt.vbFormat(calc.GetMEAvg(), '0.00')).toBe('2.60');
     expect(scenarioRows(full)).toBe(before);
 });
 
