@@ -2,7 +2,7 @@
 #include "IntakeCommands.h"
 
 #include "IntakeSelection.h"
-#include "PickerSupport.h"
+#include "WindowAvailable.h"
 #include "QtWindowHost.h"
 #include "ScriptBindings.h"
 #include "Session.h"

@@ -7,7 +7,7 @@
 #include "Diagnostics.h"
 #include "FormBuilder.h"
 #include "GridLook.h"
-#include "PickerSupport.h"
+#include "WindowAvailable.h"
 #include "QtWindowHost.h"
 #include "Recordset.h"
 #include "Session.h"

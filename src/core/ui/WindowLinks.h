@@ -58,8 +58,8 @@ public:
     virtual void setPurpose(qint16 iOpt, QWidget *answer) = 0;
 };
 
-//! The text zoom window: shows the text of a box large, for reading or editing; true when the text
-//! was written back into the box.
+//! The text zoom: shows the text of a box of another window in a large box, modally, under a caption;
+//! read-only shows it for reading only. True when the text was written back into the box.
 class TextZoom {
 public:
     virtual ~TextZoom() = default;
@@ -73,3 +73,4 @@ public:
     virtual ~IntakeSelection() = default;
     virtual void Filter(qint16 pageIndex, qint32 taxonId, const QString &mode) = 0;
 };
+
