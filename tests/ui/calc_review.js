@@ -43,21 +43,26 @@ function scenarioRows(sid) {
         t => db.query('Select * From ' + t + ' Where ScenarioID = ' + sid)));
 }
 
-// Opens the review for the scenario file from the project window, answering the basis dialog.
+// Opens the review for the scenario file from the project window; the basis dialog answers wet, dry
+// or (null) Cancel, over a scenario object whose basis was the other one (wet for Cancel).
 function review(file, wet) {
     const p = ui.window('frmProject');
     const grid = p.control('ssGrdProjectScenarios');
     const row = grid.rows.findIndex(r => r.indexOf(file) >= 0);
     expect(row >= 0).toBeTruthy();
     grid.selectRow(row);
-    // Without the basis dialog in the program the review keeps the scenario's basis.
-    session.scenario.DietType = wet ? 1 : 0;
+    session.scenario.DietType = wet ? 0 : 1;
     ui.clearMessages();
     p.toolbar().click('Calculations');
     const dialog = ui.window(basisDialog);
-    if (dialog && dialog.visible) {
-        dialog.control(wet ? 'optWetDry(1)' : 'optWetDry(0)').click();
-        dialog.control('cmdOK').click();
+    expect(dialog.caption).toBe('Perform calculations');
+    expect(dialog.control('fraDietType').caption).toBe('Select Wet/Dry Weight');
+    if (wet === null) {
+        dialog.control('cmdOK(1)').click();
+    } else {
+        expect(dialog.control('optDryWeight(' + (wet ? 1 : 0) + ')').caption).toBe(wet ? 'Wet weight' : 'Dry weight');
+        dialog.control('optDryWeight(' + (wet ? 1 : 0) + ')').click();
+        dialog.control('cmdOK(0)').click();
     }
     return ui.window('frmZOBCalculations');
 }
@@ -115,8 +120,9 @@ test('dry basis: the caption of gross energy, ME and the itemized intake follow;
     expect(scenarioRows(full)).toBe(before);
 });
 
-test('an item without energy values drops out of the grid and of MEavg', () => {
-    const w = review('partial.ZOB', true);
+test('an item without energy values drops out of the grid and of MEavg; Cancel keeps the basis', () => {
+    const w = review('partial.ZOB', null);  // Cancel over a scenario object on the wet basis
+    expect(w.control('LblDryWet').caption).toBe('WEIGHT:  Wet');
     // Only the beetles count: MEavg = .8 * 2 * .5 = .8; TDI = 126 / .8 = 157.5.
     expect(['4', '5', '6'].map(i => w.control('txtWildLifeScenario(' + i + ')').text)).toEqual(['157.5', '0.8', '126']);
     expect(w.control('ssGrdDietItems').rows).toEqual([['Beetles', '2.', '80.0', '1.6', '0.5', '78.75']]);
