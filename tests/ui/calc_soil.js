@@ -1,0 +1,80 @@
+// Soil ingestion: a study assigned to the scenario's soil row (its percentage as both rates, the
+// species, the data source), a study without a percentage over it, the list from the menu without
+// the Select command, sorted by a head, and the refusal when there is no study to choose.
+
+const texts = () => ui.messages().map(m => m.text);
+const soilRow = sid => db.query('Select * From tblIntakeZOB Where ScenarioID = ' + sid + ' And IntakeTypeID = 4')[0];
+
+db.exec("Insert Into tblSoilIngestion (SoilIngestionID, TaxonID, Species, IntakeMean, UnitsID, ReferenceID, DataSourceID) "
+        + "Values (990501, 2, 'Aaa probe shrew', 9.4, 8, 1, 5)");
+db.exec("Insert Into tblSoilIngestion (SoilIngestionID, TaxonID, Species, IntakeMean, UnitsID, ReferenceID, DataSourceID) "
+        + "Values (990502, 2, 'Aab probe mole', Null, 8, 1, 1)");
+db.exec("Insert Into tblScenario (Scenario_Type, Scenario_FileName) Values ('Wildlife', 'soil.ZOB')");
+const sid = db.query('Select Max(ScenarioID) As M From tblScenario')[0].M;
+for (let t = 1; t <= 5; ++t)
+    db.exec('Insert Into tblIntakeZOB (ScenarioID, IntakeTypeID) Values (' + sid + ', ' + t + ')');
+session.scenario.SID = sid;
+ui.window('frmSetup').close();
+
+function chooseStudy(species) {
+    intake.soil();
+    const w = ui.window('frmSelect_SoilIngestion');
+    expect(w.caption).toBe('Select Existing Soil Ingestion');
+    expect(w.toolbar().visible('Select')).toBeTruthy();
+    const grid = w.control('ssGrdMain');
+    grid.selectRow(grid.rows.findIndex(r => r.indexOf(species) >= 0));
+    w.toolbar().click(4);
+    expect(ui.windows()).not.toContain('frmSelect_SoilIngestion');
+}
+
+test('a study gives the soil row its percentage, species, units, estimator and data source', () => {
+    chooseStudy('Aaa probe shrew');
+    const r = soilRow(sid);
+    expect([r.Derivation, r.SoilIngestionID, r.AssignedSpecies, r.BaseRate, r.AdjustedRate, r.Units, r.EstimatorID, r.DataSourceID])
+        .toEqual(['Measured', 990501, 'Aaa probe shrew', 9.4, 9.4, '% dry wt', 1, 5]);
+    expect(session.scenario.Soil_DataSource).toBe(5);
+});
+
+test('a study without a percentage: base rate 0, the earlier adjusted rate stays', () => {
+    chooseStudy('Aab probe mole');
+    const r = soilRow(sid);
+    expect([r.SoilIngestionID, r.AssignedSpecies, r.BaseRate, r.AdjustedRate, r.DataSourceID]).toEqual([990502, 'Aab probe mole', 0, 9.4, 1]);
+    expect(session.scenario.Soil_DataSource).toBe(1);
+});
+
+test('from the menu: every study sorted by taxon and species, no Select, entry window asked for', () => {
+    ui.menu('mnuSoilIngestion').trigger();
+    const w = ui.window('frmSelect_SoilIngestion');
+    expect(w.toolbar().visible('Select')).toBeFalsy();
+    const grid = w.control('ssGrdMain');
+    expect(grid.rowCount).toBe(db.query('Select Count(*) As N From tblSoilIngestion')[0].N);
+    const species = grid.columns.indexOf('Species');
+    const mammals = grid.rows.filter(r => r[grid.columns.indexOf('Taxon')] === 'Mammals').map(r => r[species]);
+    expect(mammals.slice(0, 2)).toEqual(['Aaa probe shrew', 'Aab probe mole']);
+    grid.headClick(grid.columns.indexOf('% Soil in Diet'));
+    const means = grid.rows.map(r => r[grid.columns.indexOf('% Soil in Diet')]).filter(t => t !== '').map(Number);
+    expect(means).toEqual(means.slice().sort((a, b) => a - b));
+    const before = db.query('Select Count(*) As N From tblSoilIngestion')[0].N;
+    ui.clearMessages();
+    w.toolbar().click('New');
+    if (ui.windows().indexOf('frmDE_SoilIngestion') < 0) {
+        expect(texts()).toEqual(['The window frmDE_SoilIngestion is not available in this version.']);
+        expect(db.query('Select Count(*) As N From tblSoilIngestion')[0].N).toBe(before);
+    }
+    w.toolbar().click('Help');
+    expect(ui.helpTopic()).toBe(4103);
+    w.toolbar().click('Close');
+});
+
+test('with no study to choose the window says so and writes nothing', () => {
+    db.exec('Delete From tblSoilIngestion');
+    const before = JSON.stringify(soilRow(sid));
+    intake.soil();
+    ui.clearMessages();
+    const w = ui.window('frmSelect_SoilIngestion');
+    w.toolbar().click(4);
+    expect(texts()).toEqual(['Please select a record and then continue...!!!']);
+    expect(ui.windows()).toContain('frmSelect_SoilIngestion');
+    expect(JSON.stringify(soilRow(sid))).toBe(before);
+    w.toolbar().click('Close');
+});
