@@ -44,6 +44,7 @@ frmSelect_Intake::frmSelect_Intake(Session &session, QtWindowHost &host)
     m_tbIntakeType = b.tabs(QStringLiteral("tbIntakeType"));
     for (const char *page : {"Air", "Water", "Food"})
         b.page(m_tbIntakeType, QString::fromLatin1(page));
+    m_tbIntakeType->setDocumentMode(true);
     m_tbIntakeType->setMaximumHeight(m_tbIntakeType->tabBar()->sizeHint().height() + 4);
     FormBuilder options = b.row();
     m_dataOption[0] = options.option(QStringLiteral("DataOption"), 0, QStringLiteral("Model"));
@@ -57,6 +58,7 @@ frmSelect_Intake::frmSelect_Intake(Session &session, QtWindowHost &host)
     m_txtReference = source.textBox(QStringLiteral("txtReference"), QStringLiteral("Reference:"));
     ControlValue::setLocked(m_cboDataSource, true);
     ControlValue::setLocked(m_txtReference, true);
+    b.stretch();
     m_modelCombos << qMakePair(m_cboDataSource, QStringLiteral("DataSourceID"));
     m_modelFields << qMakePair<QWidget *, QString>(m_txtReference, QStringLiteral("Reference"));
 
@@ -65,11 +67,12 @@ frmSelect_Intake::frmSelect_Intake(Session &session, QtWindowHost &host)
     connect(explanation, &QPushButton::clicked, this, &frmSelect_Intake::explainCorrectionFactor);
     connect(m_cboCategory, &QComboBox::currentIndexChanged, this, &frmSelect_Intake::categoryChanged);
     connect(m_dcIntakeModel, &DataControl::Reposition, this, &frmSelect_Intake::showModel);
+    connect(m_dcIntakeMeasured, &DataControl::Reposition, this, &frmSelect_Intake::showMeasuredSource);
     connect(ControlEvents::of(m_txtMMF), &ControlEvents::LostFocus, this, [this] {
         runCommand(QStringLiteral("txtMMF_LostFocus"),
                    [this] { ControlValue::setText(m_txtMMF, CorrectionFactorText(ControlValue::text(m_txtMMF))); });
     });
-    resize(980, 640);
+    resize(980, 560);
 }
 
 void frmSelect_Intake::buildModelFrame(FormBuilder &b)
@@ -238,6 +241,19 @@ void frmSelect_Intake::dataOptionChanged()
     const bool measured = ControlValue::value(m_dataOption[1]).toBool();
     m_fraAllEq->setVisible(!measured);
     m_fraMeasuredIntake->setVisible(measured);
+    if (measured)
+        showMeasuredSource();
+    else
+        showModel();
+}
+
+void frmSelect_Intake::showMeasuredSource()
+{
+    if (!ControlValue::value(m_dataOption[1]).toBool())
+        return;
+    const int row = m_dcIntakeMeasured->currentRow();
+    selectComboValue(m_cboDataSource, row < 0 ? QVariant() : m_dcIntakeMeasured->value(row, QStringLiteral("DataSourceID")));
+    ControlValue::clear(m_txtReference);
 }
 
 void frmSelect_Intake::explainCorrectionFactor()

@@ -32,6 +32,8 @@ private:
     void loadModels();
     //! Shows the current model in the model boxes (they are read-only copies, never written back).
     void showModel();
+    //! In the measured view the data source is the measurement's; it has no reference of its own here.
+    void showMeasuredSource();
     void categoryChanged();
     void dataOptionChanged();
     void explainCorrectionFactor();

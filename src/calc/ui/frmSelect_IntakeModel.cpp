@@ -13,6 +13,7 @@
 #include "ZobToolbar.h"
 
 #include <QAction>
+#include <QHeaderView>
 
 namespace {
 const WindowRegistration<frmSelect_IntakeModel> reg(QStringLiteral("frmSelect_IntakeModel"));
@@ -51,6 +52,8 @@ frmSelect_IntakeModel::frmSelect_IntakeModel(Session &session, QtWindowHost &hos
                           {QStringLiteral("Reference")}},
                          true);
     new GridLook(m_ssGrdMain);
+    // The reference takes the width the other columns leave.
+    m_ssGrdMain->horizontalHeader()->setStretchLastSection(true);
     m_ssGrdMain->setToolTip(QStringLiteral("Double-click an equation to open it; click a column head to sort."));
     connect(m_ssGrdMain, &DataGrid::HeadClick, this, [this](int column) {
         runCommand(QStringLiteral("ssGrdMain_HeadClick"), [&] {
@@ -62,7 +65,7 @@ frmSelect_IntakeModel::frmSelect_IntakeModel(Session &session, QtWindowHost &hos
         });
     });
     connect(m_ssGrdMain, &DataGrid::DblClick, this, [this] { toolbar()->click(QStringLiteral("Open")); });
-    resize(1180, 520);
+    resize(sizeHint());
 }
 
 void frmSelect_IntakeModel::serveRequest()
@@ -89,6 +92,7 @@ void frmSelect_IntakeModel::LoadData(const QString &sort)
         + sort);
     m_dcMain->Refresh();
     m_ssGrdMain->fitColumns(28, 5);
+    m_ssGrdMain->setColumnWidth(m_dcMain->fieldIndex(QStringLiteral("Reference")), 160);
 }
 
 void frmSelect_IntakeModel::openModel()

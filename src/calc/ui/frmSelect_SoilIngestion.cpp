@@ -15,6 +15,7 @@
 #include "ZobToolbar.h"
 
 #include <QAction>
+#include <QHeaderView>
 
 namespace {
 const WindowRegistration<frmSelect_SoilIngestion> reg(QStringLiteral("frmSelect_SoilIngestion"));
@@ -58,20 +59,18 @@ frmSelect_SoilIngestion::frmSelect_SoilIngestion(Session &session, QtWindowHost 
                           {QStringLiteral("IntakeMean"), QStringLiteral("% Soil in Diet")},
                           {QStringLiteral("Units")},
                           {QStringLiteral("Sample")},
-                          {QStringLiteral("Ash_Scat_Mean"), QStringLiteral("% Ash in Scat")},
-                          {QStringLiteral("a_Digest"), QStringLiteral("% Digestibility")},
-                          {QStringLiteral("b_Ash_Food"), QStringLiteral("% Ash in Food")},
-                          {QStringLiteral("c_Ash_Soil"), QStringLiteral("% Ash in Soil")},
                           {QStringLiteral("State")},
                           {QStringLiteral("Reference")}},
                          true);
     new GridLook(m_ssGrdMain);
+    // The reference takes the width the other columns leave.
+    m_ssGrdMain->horizontalHeader()->setStretchLastSection(true);
     m_ssGrdMain->setToolTip(QStringLiteral("Double-click a study to open it; click a column head to sort."));
     connect(m_ssGrdMain, &DataGrid::HeadClick, this, [this](int column) {
         runCommand(QStringLiteral("ssGrdMain_HeadClick"), [&] { LoadData(m_dcMain->fields().value(column)); });
     });
     connect(m_ssGrdMain, &DataGrid::DblClick, this, [this] { runCommand(QStringLiteral("ssGrdMain_DblClick"), [this] { openStudy(); }); });
-    resize(1180, 520);
+    resize(sizeHint());
 }
 
 void frmSelect_SoilIngestion::serveRequest()
@@ -97,6 +96,7 @@ void frmSelect_SoilIngestion::LoadData(const QString &sortKey)
     m_dcMain->Refresh();
     m_sortKey = sortKey;
     m_ssGrdMain->fitColumns(28, 6);
+    m_ssGrdMain->setColumnWidth(m_dcMain->fieldIndex(QStringLiteral("Reference")), 160);
 }
 
 void frmSelect_SoilIngestion::openStudy()

@@ -13,6 +13,10 @@ class frmSelect_SoilIngestion : public RequestWindow {
 public:
     frmSelect_SoilIngestion(Session &session, QtWindowHost &host);
 
+    //! Wide enough for every column: the main window's workspace places a child that does not fit at
+    //! its size hint, and then fits it inside.
+    QSize sizeHint() const override { return {1180, 520}; }
+
 protected:
     void serveRequest() override;
 

@@ -68,7 +68,7 @@ void frmZOBCalculations::buildHeader(FormBuilder &b)
     for (int i = 0; i < 7; ++i) {
         m_box[i] = (i < 4 ? left : right).textBox(QStringLiteral("txtWildLifeScenario"), i, QString::fromLatin1(captions[i]));
         ControlValue::setLocked(m_box[i], true);
-        if (i >= 2)
+        if (i == 2 || i >= 4)
             m_box[i]->setAlignment(Qt::AlignRight);
     }
     m_lblDryWet = right.label(QStringLiteral("LblDryWet"), QStringLiteral("WEIGHT:  Wet"));
