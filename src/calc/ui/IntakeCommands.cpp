@@ -29,10 +29,11 @@ void selectIntakeFromDatabase(Session &session, QtWindowHost &host, qint16 pageI
                        MsgIcon::Warning);
         return;
     }
-    if (auto *selection = host.link<IntakeSelection>(dialog)) {
-        selection->Filter(pageIndex, taxonId, QStringLiteral("Read"));
-        host.show(dialog, true);
-    }
+    RecordRequest request;
+    request.recordId = pageIndex;
+    request.selectedId = taxonId;
+    request.mode = QStringLiteral("Read");
+    openEntryWindow(session, host, dialog, request, true);
 }
 
 void selectSoilIngestion(Session &session, QtWindowHost &host)

@@ -13,6 +13,7 @@
 #include "Recordset.h"
 #include "Session.h"
 #include "VbFormat.h"
+#include "WindowLinks.h"
 #include "clsScenario.h"
 
 #include <QComboBox>
@@ -149,6 +150,12 @@ void frmSelect_Intake::Form_Load()
         m_dcIntakeModel->setDatabase(session().gDB);
         m_dcIntakeMeasured->setDatabase(session().gDB);
     });
+}
+
+void frmSelect_Intake::setRecord(const RecordRequest &request)
+{
+    ZobWindow::setRecord(request);
+    Filter(static_cast<qint16>(request.recordId), request.selectedId, request.mode);
 }
 
 void frmSelect_Intake::Filter(qint16 pageIndex, qint32 taxonId, const QString &mode)

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "WindowLinks.h"
 #include "ZobWindow.h"
 
 class DataControl;
@@ -15,14 +14,18 @@ class QTabWidget;
 //! The choice of the air, water or food-energy rate of the open scenario: an allometric equation of
 //! the taxon in a chosen category, or a measured rate of the species. The rates are computed when the
 //! choice is accepted and written into the scenario's intake row; the builder then shows them.
-class frmSelect_Intake : public ZobWindow, public IntakeSelection {
+class frmSelect_Intake : public ZobWindow {
     Q_OBJECT
 public:
     frmSelect_Intake(Session &session, QtWindowHost &host);
 
     bool isMdiChild() const override { return false; }
     void Form_Load() override;
-    void Filter(qint16 pageIndex, qint32 taxonId, const QString &mode) override;
+    //! Sets the intake type (the builder's intake page index, the type less one), the taxon and the
+    //! caller's mode, and reads the dialog's lists for them.
+    void Filter(qint16 pageIndex, qint32 taxonId, const QString &mode);
+    //! The caller's request: recordId the page index, selectedId the taxon, and the mode.
+    void setRecord(const RecordRequest &request) override;
 
 private:
     void buildModelFrame(class FormBuilder &b);

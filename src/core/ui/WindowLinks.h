@@ -65,12 +65,3 @@ public:
     virtual ~TextZoom() = default;
     virtual bool ZoomText(QWidget *target, const QString &caption, bool readOnly) = 0;
 };
-
-//! The intake dialog for the air, water or food row of the open scenario: set before it is shown,
-//! with the builder's intake page index (the intake type less one), the taxon and the caller's mode.
-class IntakeSelection {
-public:
-    virtual ~IntakeSelection() = default;
-    virtual void Filter(qint16 pageIndex, qint32 taxonId, const QString &mode) = 0;
-};
-
