@@ -13,27 +13,11 @@
 
 #include <QApplication>
 #include <QStringList>
-#include <algorithm>
 #include <sqlite3.h>
-#include <vector>
 
 namespace {
 const int kRuns = qEnvironmentVariableIntValue("ZOB_BENCH_RUNS") > 0 ? qEnvironmentVariableIntValue("ZOB_BENCH_RUNS") : 200;
 const QString kWindow = QStringLiteral("frmZOBCalculations");
-
-double median(std::vector<double> v)
-{
-    std::sort(v.begin(), v.end());
-    return (v[v.size() / 2] + v[(v.size() - 1) / 2]) / 2;
-}
-
-template <typename F>
-double timed(F &&f)
-{
-    const auto start = std::chrono::steady_clock::now();
-    f();
-    return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count();
-}
 
 //! Collects the statements a connection runs, as SQLite expands them.
 int collect(unsigned, void *list, void *stmt, void *)
@@ -118,14 +102,14 @@ int main(int argc, char **argv)
 
     std::vector<double> window, sqlite;
     for (int i = 0; i < kRuns; ++i) {
-        window.push_back(timed(open));
-        sqlite.push_back(timed([&] {
+        window.push_back(benchMillis(open));
+        sqlite.push_back(benchMillis([&] {
             for (const QString &sql : statements)
                 runDirect(direct, sql);
         }));
     }
     sqlite3_close(direct);
-    const double a = median(window), d = median(sqlite);
+    const double a = benchMedian(window), d = benchMedian(sqlite);
     std::printf("Calculation review on a 5-item diet, seeded database, %d runs (median ms)\n", kRuns);
     std::printf("  window %8.3f  sqlite %8.3f (%lld statements)  ratio %6.1f\n", a, d, static_cast<long long>(statements.size()), a / d);
     return 0;
