@@ -187,10 +187,10 @@ void frmSelect_Intake::loadIntake()
         m_categoryId = stored.toString() == kNotFound ? 0 : vb::CLng(stored);
         if (m_categoryId != 0)
             selectComboValue(m_cboCategory, m_categoryId);
-        if (m_categoryId == 0 || m_cboCategory->currentIndex() < 0) {
+        if (m_categoryId == 0 || ControlValue::value(m_cboCategory).isNull()) {
             ControlValue::select(m_cboCategory, 0);
             if (m_categoryId == 0)
-                m_categoryId = vb::CLng(m_cboCategory->currentData());
+                m_categoryId = vb::CLng(ControlValue::value(m_cboCategory));
         }
         loadModels();
         m_dcIntakeMeasured->setRecordSource(IntakeMeasuredSQL(m_intakeTypeId, s.gScenario->SpeciesID));
@@ -238,7 +238,7 @@ void frmSelect_Intake::categoryChanged()
     if (m_loading)
         return;
     guarded(session(), {ErrForm::Shared, kLoadRoutine}, [&] {
-        m_categoryId = vb::CLng(m_cboCategory->currentData());
+        m_categoryId = vb::CLng(ControlValue::value(m_cboCategory));
         loadModels();
     });
 }

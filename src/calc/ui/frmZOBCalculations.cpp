@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "frmZOBCalculations.h"
 
+#include "CalcSupport.h"
 #include "Calculations.h"
 #include "ControlValue.h"
 #include "DataControl.h"
@@ -32,7 +33,6 @@ constexpr int kTabTopic = 1073;
 constexpr quint32 kFirstColumnColor = 12632064;
 constexpr quint32 kSixthColumnColor = 14737632;
 
-QString sidText(const Session &s) { return QString::number(s.gScenario->SID); }
 }  // namespace
 
 frmZOBCalculations::frmZOBCalculations(Session &session, QtWindowHost &host)
@@ -105,12 +105,14 @@ void frmZOBCalculations::Form_Load()
         auto rs = session().gDB->OpenRecordset(
             QStringLiteral("SELECT tblScenario.Scenario_FileName, tblWildlife.* FROM tblScenario INNER JOIN tblWildlife ON "
                            "tblScenario.ScenarioID = tblWildlife.ScenarioID Where tblWildlife.ScenarioID = ")
-                + sidText(session()),
+                + calc::sidText(session()),
             RecordsetType::Snapshot);
-        ControlValue::setText(m_box[0], vb::CStr(rs->field(QStringLiteral("Scenario_FileName"))));
-        ControlValue::setText(m_box[1], vb::CStr(rs->field(QStringLiteral("Common"))));
-        ControlValue::setText(m_box[2], vb::vbFormat(rs->field(QStringLiteral("Weight")), QStringLiteral("#,##0.0#")));
-        ControlValue::setText(m_box[3], vb::CStr(rs->field(QStringLiteral("WtSex"))));
+        // A scenario not yet complete shows its missing values as empty boxes.
+        const QVariant weight = rs->field(QStringLiteral("Weight"));
+        ControlValue::setText(m_box[0], calc::joinText(rs->field(QStringLiteral("Scenario_FileName"))));
+        ControlValue::setText(m_box[1], calc::joinText(rs->field(QStringLiteral("Common"))));
+        ControlValue::setText(m_box[2], weight.isNull() ? QString() : vb::vbFormat(weight, QStringLiteral("#,##0.0#")));
+        ControlValue::setText(m_box[3], calc::joinText(rs->field(QStringLiteral("WtSex"))));
         rs->Close();
         chooseBasis();
         showFigures();
@@ -162,7 +164,7 @@ bool frmZOBCalculations::ZOBCalculationsValid()
             QStringLiteral("SELECT tblIntakeType.Description, tblIntakeZOB.BaseRate, tblIntakeZOB.Units, tblIntakeZOB.Derivation, "
                            "tblIntakeZOB.Measured_CF, tblIntakeZOB.ADJUSTEDRate FROM tblIntakeZOB INNER JOIN tblIntakeType ON "
                            "tblIntakeZOB.IntakeTypeID = tblIntakeType.IntakeTypeID WHERE tblIntakeZOB.ScenarioID = ")
-            + sidText(session()));
+            + calc::sidText(session()));
         m_dcIntakeRates->Refresh();
         dressIntakeGrid();
     });
