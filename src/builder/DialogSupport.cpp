@@ -3,7 +3,25 @@
 
 #include "QtWindowHost.h"
 #include "WindowAvailable.h"
+#include "ZobToolbar.h"
 #include "ZobWindow.h"
+
+#include <QAction>
+#include <QGroupBox>
+
+void showToolButton(ZobToolbar &toolbar, const QString &key, bool visible)
+{
+    const int index = toolbar.indexOf(key);
+    if (QAction *button = toolbar.button(index))
+        button->setVisible(visible);
+    if (QAction *separator = toolbar.button(index - 1); separator && separator->isSeparator())
+        separator->setVisible(visible);
+}
+
+void keepFrameHeight(QGroupBox *frame)
+{
+    frame->setSizePolicy(frame->sizePolicy().horizontalPolicy(), QSizePolicy::Maximum);
+}
 
 bool openForRecord(ZobWindow &from, const QString &name, const RecordRequest &request, bool modal, bool unloadFirst)
 {

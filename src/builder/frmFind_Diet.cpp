@@ -55,7 +55,7 @@ frmFind_Diet::frmFind_Diet(Session &session, QtWindowHost &host)
     }
     filter.stretch();
     connect(m_grid, &DataGrid::DblClick, this, [this] { runCommand(QStringLiteral("ssGrdDiet_DblClick"), [this] { select(); }); });
-    resize(760, 420);
+    resize(900, 420);
 }
 
 QString frmFind_Diet::listStatement(qint32 speciesId)

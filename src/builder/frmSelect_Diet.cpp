@@ -173,8 +173,8 @@ void frmSelect_Diet::serveRequest()
         const RecordRequest &r = recordRequest();
         const bool list = r.recordId < 1;
         const bool reading = r.mode == QLatin1String("Read");
-        toolbar()->button(QStringLiteral("New"))->setVisible(!reading);
-        toolbar()->button(QStringLiteral("Save"))->setVisible(!reading);
+        showToolButton(*toolbar(), QStringLiteral("New"), !reading);
+        showToolButton(*toolbar(), QStringLiteral("Save"), !reading);
         session().gSQL = dietStatement(r.recordId, session().gScenario->SpeciesID);
         m_dcDiet->setDatabase(session().gDB);
         m_dcDiet->setRecordSource(session().gSQL);
@@ -183,7 +183,7 @@ void frmSelect_Diet::serveRequest()
             m_dcDiet->MoveLast();
             m_dcDiet->MoveFirst();
         }
-        toolbar()->button(QStringLiteral("Select"))->setVisible(list);
+        showToolButton(*toolbar(), QStringLiteral("Select"), list);
         m_dcDiet->setVisible(list);
         SetControlInfo(session(), this, QStringLiteral("lock"), true);
         // The look-up boxes of the material and the measure are not caught by the prefixes.
@@ -216,8 +216,10 @@ void frmSelect_Diet::select()
     clsScenario &scenario = *s.gScenario;
     scenario.DietID = dietId;
     const QVariant term = s.Lookup(QStringLiteral("tblDiet"), QStringLiteral("MeasureTermID"), QStringLiteral("DietID = %1").arg(dietId));
-    scenario.DietType = vb::CInt(s.Lookup(QStringLiteral("tblMeasureTerm"), QStringLiteral("WeightIsWet"),
-                                          QStringLiteral("MeasureTermID = %1").arg(vb::CStr(term))));
+    const QVariant wet = s.Lookup(QStringLiteral("tblMeasureTerm"), QStringLiteral("WeightIsWet"),
+                                  QStringLiteral("MeasureTermID = %1").arg(vb::CStr(term)));
+    // The yes/no column reads as a boolean; the scenario keeps its wet flag as 1 or 0.
+    scenario.DietType = vb::CInt(wet) != 0 ? 1 : 0;
     scenario.Diet_DataSource = row.field(QStringLiteral("DataSourceID")).toInt();
     DietHeadText head;
     head.season = ControlValue::text(m_cboFrom) + QStringLiteral(" - ") + ControlValue::text(m_cboTo);

@@ -17,6 +17,7 @@
 #include "clsScenario.h"
 
 #include <QAction>
+#include <QLabel>
 #include <QPlainTextEdit>
 #include <QRadioButton>
 
@@ -62,6 +63,7 @@ frmSelect_Weight::frmSelect_Weight(Session &session, QtWindowHost &host)
                     true);
     m_grid->setToolTip(QStringLiteral("Double-click a weight to open its record; click a column head to sort."));
     FormBuilder reference = b.frame(QStringLiteral("fraReference"), QStringLiteral("Reference"));
+    keepFrameHeight(b.lastFrame());
     QWidget *txtReference = reference.memo(QStringLiteral("txtReference"), QString(), 3);
     ControlValue::setLocked(txtReference, true);
     m_dcWeight->bind(txtReference, QStringLiteral("Reference"));
@@ -85,19 +87,21 @@ frmSelect_Weight::frmSelect_Weight(Session &session, QtWindowHost &host)
 void frmSelect_Weight::buildOptions(FormBuilder &b)
 {
     FormBuilder top = b.row();
+    top.container()->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
     FormBuilder estimators = top.frame(QStringLiteral("frmMeanMaxMin"), QStringLiteral("Estimator"));
     for (int i = 0; i < 6; ++i)
         m_optMeanMaxMin.append(estimators.option(QStringLiteral("optMeanMaxMin"), i, QString::fromLatin1(kEstimators[i])));
     FormBuilder filters = top.frame(QStringLiteral("fraFilter"), QStringLiteral("Filters"));
     FormBuilder status = filters.row();
+    status.label(QStringLiteral("lblStatus"), QStringLiteral("Status:"))->setMinimumWidth(60);
     for (int i = 0; i < 3; ++i)
         m_optStatus.append(status.option(QStringLiteral("optStatus"), i, QString::fromLatin1(kStatus[i])));
     status.stretch();
     FormBuilder gender = filters.row();
+    gender.label(QStringLiteral("lblGender"), QStringLiteral("Gender:"))->setMinimumWidth(60);
     for (int i = 0; i < 4; ++i)
         m_optGender.append(gender.option(QStringLiteral("optGender"), i, QString::fromLatin1(kGender[i])));
     gender.stretch();
-    filters.stretch();
     top.stretch();
     m_optStatus.last()->setChecked(true);
     m_optGender.last()->setChecked(true);
@@ -108,7 +112,7 @@ void frmSelect_Weight::buildOptions(FormBuilder &b)
 
 void frmSelect_Weight::serveRequest()
 {
-    toolbar()->button(QStringLiteral("New"))->setVisible(recordRequest().mode != QLatin1String("Read"));
+    showToolButton(*toolbar(), QStringLiteral("New"), recordRequest().mode != QLatin1String("Read"));
     m_optMeanMaxMin[WeightChoice::Mean]->setChecked(true);
     guarded(session(), {ErrForm::Shared, QStringLiteral("frmSelect_Weight.Form_Load")}, [this] { LoadData(kStatusOrder); });
 }

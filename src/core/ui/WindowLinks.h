@@ -43,6 +43,14 @@ public:
     virtual void PuS_SetTab(int index) = 0;
 };
 
+//! The text zoom: a long text of another window's box shown large for reading or editing.
+class TextZoom {
+public:
+    virtual ~TextZoom() = default;
+    //! Shows the text of target under a caption, modally; true when the text was written back.
+    virtual bool ZoomText(QWidget *target, const QString &caption, bool readOnly) = 0;
+};
+
 //! A window that lists rows of the database and reads them again on request.
 class ListView {
 public:
@@ -56,12 +64,4 @@ class BasisChooser {
 public:
     virtual ~BasisChooser() = default;
     virtual void setPurpose(qint16 iOpt, QWidget *answer) = 0;
-};
-
-//! The text zoom: shows the text of a box of another window in a large box, modally, under a caption;
-//! read-only shows it for reading only. True when the text was written back into the box.
-class TextZoom {
-public:
-    virtual ~TextZoom() = default;
-    virtual bool ZoomText(QWidget *target, const QString &caption, bool readOnly) = 0;
 };
