@@ -24,13 +24,14 @@ session.scenario.Weight = 4740;
 session.scenario.DietType = 1;
 calc.SumProportions(true);
 
-intake.select(0, 1);
+const intake = page => pickers.open('frmSelect_Intake', { recordId: page, selectedId: 1, mode: 'Read' });
+intake(0);
 let w = ui.window('frmSelect_Intake');
 shot(w, 'frmSelect_Intake-model');
 w.toolbar().click(6);
-intake.select(1, 1);
+intake(1);
 ui.window('frmSelect_Intake').toolbar().click(6);
-intake.select(2, 1);
+intake(2);
 w = ui.window('frmSelect_Intake');
 w.control('DataOption(1)').click();
 w.control('ssGrdMeasuredAir').selectRow(1);
@@ -38,7 +39,7 @@ shot(w, 'frmSelect_Intake-measured');
 w.control('DataOption(0)').click();
 w.toolbar().click(6);
 
-intake.soil();
+pickers.open('frmSelect_SoilIngestion', { recordId: 4, mode: 'Write', table: 'tblSoilIngestion', keyField: 'SoilIngestionID' });
 w = ui.window('frmSelect_SoilIngestion');
 w.control('ssGrdMain').selectRow(0);
 shot(w, 'frmSelect_SoilIngestion');

@@ -1,8 +1,8 @@
 // Intake rates of a scenario: air, water and food each from an allometric equation and from a
-// measurement, written to the scenario's intake row with their roundings; the category and weight
-// refusals before the dialog; the correction factor rule; bad input (a correction factor typed as
-// letters, negative, 1e309 or empty, an equation without its coefficient, a species without
-// measurements) that leaves the row as it was; the equation list from the menu.
+// measurement, written to the scenario's intake row with their roundings; the correction factor rule;
+// a taxon without a category; bad input (a correction factor typed as letters, negative, 1e309 or
+// empty, an equation without its coefficient, a species without measurements) that leaves the row as
+// it was; the equation list from the menu.
 
 const texts = () => ui.messages().map(m => m.text);
 const TAXON = 90, SPECIES = 990001, BARE_SPECIES = 990002;
@@ -44,9 +44,10 @@ function scenario(species, weight) {
     return sid;
 }
 
+// The dialog opened as the builder's intake page opens it: page index, taxon, mode "Read".
 function dialog(page) {
     ui.clearMessages();
-    intake.select(page, TAXON);
+    pickers.open('frmSelect_Intake', { recordId: page, selectedId: TAXON, mode: 'Read' });
     return ui.window('frmSelect_Intake');
 }
 
@@ -168,16 +169,15 @@ test('the correction factor of an equation is a whole number from 1 to 10', () =
     w.toolbar().click(8);
 });
 
-test('refusals: no category for the taxon, no weight; a species without measurements saves nothing', () => {
+test('no category for the taxon: the dialog says so; a species without measurements saves nothing', () => {
     db.exec('Delete From tblIntakeModel Where IntakeModelID = 990201');
-    expect(dialog(1)).toBeNull();
+    let w = dialog(1);
     expect(texts()).toEqual(['No data available']);
-    session.scenario.Weight = 0;
-    expect(dialog(0)).toBeNull();
-    expect(texts()).toEqual(['Weight not selected. Please select weight and then continue.']);
+    expect(w.control('cboCategory').items).toEqual([]);
+    w.toolbar().click(8);
     const bare = scenario(BARE_SPECIES, 1000);
     const before = rowText(bare, 1);
-    const w = dialog(0);
+    w = dialog(0);
     w.control('DataOption(1)').click();
     expect(w.control('ssGrdMeasuredAir').rowCount).toBe(0);
     w.toolbar().click(6);

@@ -16,8 +16,12 @@ for (let t = 1; t <= 5; ++t)
 session.scenario.SID = sid;
 ui.window('frmSetup').close();
 
+// The list opened as the builder's soil page opens it: to assign a study to intake row 4.
+const openForScenario = () => pickers.open('frmSelect_SoilIngestion', { recordId: 4, mode: 'Write', table: 'tblSoilIngestion',
+                                                                       keyField: 'SoilIngestionID' });
+
 function chooseStudy(species) {
-    intake.soil();
+    openForScenario();
     const w = ui.window('frmSelect_SoilIngestion');
     expect(w.caption).toBe('Select Existing Soil Ingestion');
     expect(w.toolbar().visible('Select')).toBeTruthy();
@@ -69,7 +73,7 @@ test('from the menu: every study sorted by taxon and species, no Select, entry w
 test('with no study to choose the window says so and writes nothing', () => {
     db.exec('Delete From tblSoilIngestion');
     const before = JSON.stringify(soilRow(sid));
-    intake.soil();
+    openForScenario();
     ui.clearMessages();
     const w = ui.window('frmSelect_SoilIngestion');
     w.toolbar().click(4);

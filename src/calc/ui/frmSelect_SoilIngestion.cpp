@@ -5,7 +5,7 @@
 #include "Diagnostics.h"
 #include "FormBuilder.h"
 #include "GridLook.h"
-#include "IntakeCommands.h"
+#include "EntryWindows.h"
 #include "IntakeSelection.h"
 #include "QtWindowHost.h"
 #include "Recordset.h"
