@@ -71,25 +71,6 @@ TEST_F(IntakeSelectionTest, ModelRatesRoundTheBaseRateOnlyAndKeepTheMeasurementC
     EXPECT_TRUE(shown().isEmpty());
 }
 
-TEST_F(IntakeSelectionTest, ModelWithoutCoefficientOrMeasurementWithBadFactorWritesNothing)
-{
-    sql(QStringLiteral("INSERT INTO tblIntakeModel (IntakeModelID, IntakeTypeID, a, b, WtUnitsID, FinalUnitsID) "
-                       "VALUES (63, 3, NULL, 1, 13, 20)"));
-    measurement(QStringLiteral("4"), QStringLiteral("1"), QStringLiteral("1"));
-    const QVariantList before = food("*");
-    auto model = first(QStringLiteral("SELECT * FROM tblIntakeModel WHERE IntakeModelID = 63"));
-    try {
-        SaveModelIntake(s, 3, *model, 1, QString());
-        ADD_FAILURE() << "a model without a coefficient was saved";
-    } catch (const VbError &e) {
-        EXPECT_EQ(e.number(), VbErr::InvalidUseOfNull);
-    }
-    for (const char *factor : {"abc", "", "1e309", "-2"}) {
-        EXPECT_THROW(saveMeasured(1, QLatin1String(factor)), VbError) << factor;
-        EXPECT_EQ(food("*"), before) << factor;
-    }
-}
-
 TEST_F(IntakeSelectionTest, MeasuredRatesByEstimator)
 {
     struct Case {
@@ -141,15 +122,6 @@ TEST_F(IntakeSelectionTest, SoilStudyGivesItsPercentageAndANullOneKeepsTheAdjust
     SaveSoilIngestion(s, 4, *first(QStringLiteral("SELECT * FROM tblSoilIngestion WHERE SoilIngestionID = 72")));
     EXPECT_EQ(soil(), (QVariantList{QStringLiteral("Measured"), 72, QStringLiteral("Shrew"), 0.0, 9.4322,
                                     QStringLiteral("% dry wt"), 1, 1}));
-}
-
-TEST_F(IntakeSelectionTest, CategoryExistsOnlyForTheTaxonAndIntakeType)
-{
-    sql(QStringLiteral("INSERT INTO tblCategory (CategoryID, Description) VALUES (5, 'Group');"
-                       "INSERT INTO tblIntakeModel (IntakeModelID, IntakeTypeID, TaxonID, CategoryID) VALUES (64, 1, 2, 5)"));
-    EXPECT_TRUE(HasIntakeCategory(s, 1, 2));
-    EXPECT_FALSE(HasIntakeCategory(s, 2, 2));
-    EXPECT_FALSE(HasIntakeCategory(s, 1, 3));
 }
 
 }  // namespace

@@ -81,4 +81,5 @@ test('a soil study: its percentage written and shown on the page', () => {
     expect([r.SoilIngestionID, r.BaseRate, r.AdjustedRate, r.Units]).toEqual([990501, 9.4, 9.4, '% dry wt']);
     expect(builder().control('txtIntakeRate(3)').text).toBe('9.4');
     expect(builder().control('LblAssignedSpecies').text).toBe('Aaa probe shrew');
+    expect(session.scenario.Soil_DataSource).toBe(5);
 });

@@ -1,6 +1,6 @@
-// Soil ingestion: a study assigned to the scenario's soil row (its percentage as both rates, the
-// species, the data source), a study without a percentage over it, the list from the menu without
-// the Select command, sorted by a head, and the refusal when there is no study to choose.
+// Soil ingestion studies: the list from the menu without the Select command, sorted by a head, New
+// waiting for the entry window, and the refusal when there is no study to choose for the scenario.
+// (The assignment itself is tested through the builder's soil page and in the unit tests.)
 
 const texts = () => ui.messages().map(m => m.text);
 const soilRow = sid => db.query('Select * From tblIntakeZOB Where ScenarioID = ' + sid + ' And IntakeTypeID = 4')[0];
@@ -19,32 +19,6 @@ ui.window('frmSetup').close();
 // The list opened as the builder's soil page opens it: to assign a study to intake row 4.
 const openForScenario = () => pickers.open('frmSelect_SoilIngestion', { recordId: 4, mode: 'Write', table: 'tblSoilIngestion',
                                                                        keyField: 'SoilIngestionID' });
-
-function chooseStudy(species) {
-    openForScenario();
-    const w = ui.window('frmSelect_SoilIngestion');
-    expect(w.caption).toBe('Select Existing Soil Ingestion');
-    expect(w.toolbar().visible('Select')).toBeTruthy();
-    const grid = w.control('ssGrdMain');
-    grid.selectRow(grid.rows.findIndex(r => r.indexOf(species) >= 0));
-    w.toolbar().click(4);
-    expect(ui.windows()).not.toContain('frmSelect_SoilIngestion');
-}
-
-test('a study gives the soil row its percentage, species, units, estimator and data source', () => {
-    chooseStudy('Aaa probe shrew');
-    const r = soilRow(sid);
-    expect([r.Derivation, r.SoilIngestionID, r.AssignedSpecies, r.BaseRate, r.AdjustedRate, r.Units, r.EstimatorID, r.DataSourceID])
-        .toEqual(['Measured', 990501, 'Aaa probe shrew', 9.4, 9.4, '% dry wt', 1, 5]);
-    expect(session.scenario.Soil_DataSource).toBe(5);
-});
-
-test('a study without a percentage: base rate 0, the earlier adjusted rate stays', () => {
-    chooseStudy('Aab probe mole');
-    const r = soilRow(sid);
-    expect([r.SoilIngestionID, r.AssignedSpecies, r.BaseRate, r.AdjustedRate, r.DataSourceID]).toEqual([990502, 'Aab probe mole', 0, 9.4, 1]);
-    expect(session.scenario.Soil_DataSource).toBe(1);
-});
 
 test('from the menu: every study sorted by taxon and species, no Select, entry window asked for', () => {
     ui.menu('mnuSoilIngestion').trigger();
