@@ -150,6 +150,8 @@ test('the column heads explain the calculation in the zoom window', () => {
     expect(ui.window('frmZoom').control('txtZoom').text)
         .toBe('Correction Factor: This is used to convert the Base Intake Rate to a Free Living Intake Rate');
     ui.window('frmZoom').close();
+    g.headClick(g.columns.indexOf('Prop of Diet (0-1)'));
+    expect(ui.helpTopic()).toBe(1035);
     r.headClick(r.columns.indexOf('Units'));
     expect(ui.window('frmZoom')).toBeNull();
     w.toolbar().click('Help');

@@ -17,6 +17,7 @@
 #include "clsScenario.h"
 
 #include <QCheckBox>
+#include <QHash>
 #include <QLabel>
 #include <QLineEdit>
 #include <QTabWidget>
@@ -241,6 +242,11 @@ void frmZOBCalculations::dietHeadClick(int column)
                                    "= Gross Energyk (kcal / g) * Assimilation Efficiency[k] (unitless)"));
         else if (field.compare(QLatin1String("Daily_Intake"), Qt::CaseInsensitive) == 0)
             explain(QStringLiteral("Itemized Daily Intake"), itemizedIntakeText());
+        // The columns without an explanation of their own open their help topic.
+        static const QHash<QString, int> topics = {{QStringLiteral("ge"), 2508}, {QStringLiteral("mean"), 2509},
+                                                   {QStringLiteral("dietproportion"), 1035}};
+        if (const int topic = topics.value(field.toLower()); topic && session().help)
+            session().help->showTopic(topic);
     });
 }
 
