@@ -77,10 +77,12 @@ void BuilderIntakePage::buildType(FormBuilder &page, int n)
         fields.lastLabel()->setObjectName(arrayName(QStringLiteral("lblMCF"), 6));
     }
     page.label(QStringLiteral("LbLDataSource"), 3 + n, QString());
-    m_w.noteBox(page, 3 + n, QString::fromLatin1(kTypes[n].comments), 5);
-    // A typed rate is written when its box is left.
-    connect(ControlEvents::of(m_rate[n]), &ControlEvents::LostFocus, this,
-            [this] { m_w.command(QStringLiteral("SaveIntakeControls"), [this] { SaveIntakeControls(); }); });
+    QWidget *comments = m_w.noteBox(page, 3 + n, QString::fromLatin1(kTypes[n].comments), 5);
+    // A typed rate is written when its box is left; so are the rates when the sediment comment is.
+    auto save = [this] { m_w.command(QStringLiteral("SaveIntakeControls"), [this] { SaveIntakeControls(); }); };
+    connect(ControlEvents::of(m_rate[n]), &ControlEvents::LostFocus, this, save);
+    if (n == 4)
+        connect(ControlEvents::of(comments), &ControlEvents::LostFocus, this, save);
 }
 
 void BuilderIntakePage::showUnits()
@@ -231,7 +233,7 @@ void BuilderIntakePage::SaveIntake(int type)
             rs->setField(QStringLiteral("Units_CF"), 1);
             rs->setField(QStringLiteral("Measured_CF"), 1);
             rs->setField(QStringLiteral("CategoryID"), 0);
-            rs->setField(QStringLiteral("IntakeEquation"), QString());
+            rs->setField(QStringLiteral("IntakeEquation"), QStringLiteral(""));
         }
         rs->setField(QStringLiteral("AdjustedRate"), m_adjustedRate);
         rs->setField(QStringLiteral("Units"), m_units_);

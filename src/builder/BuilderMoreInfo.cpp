@@ -2,6 +2,7 @@
 #include "BuilderMoreInfo.h"
 
 #include "ControlValue.h"
+#include "DataSourceText.h"
 #include "Session.h"
 #include "Utilities.h"
 #include "clsScenario.h"
@@ -93,7 +94,9 @@ void showMoreInformation(frmZOB &w, int page, int intakePage)
     case 3: {
         arrayItem<QWidget>(&w, QStringLiteral("cmdMoreInfo"), 3)->setVisible(true);
         const QString source = ControlValue::text(arrayItem<QWidget>(&w, QStringLiteral("LbLDataSource"), 3 + intakePage));
-        if (source == QLatin1String("Data Source: User entered  ")) {
+        // A typed rate shows the words of data source 2, whatever the database calls that source.
+        if (source == QLatin1String("Data Source: User entered  ")
+            || source == QStringLiteral("Data Source: ") + GetDataSourceText(s, 2) + QStringLiteral("  ")) {
             s.msgBox(QStringLiteral("More Information not available for user entered data."), QString(), MsgIcon::Information);
             return;
         }

@@ -102,6 +102,7 @@ void frmSelect_Weight::buildOptions(FormBuilder &b)
     for (int i = 0; i < 4; ++i)
         m_optGender.append(gender.option(QStringLiteral("optGender"), i, QString::fromLatin1(kGender[i])));
     gender.stretch();
+    filters.stretch();
     top.stretch();
     m_optStatus.last()->setChecked(true);
     m_optGender.last()->setChecked(true);
@@ -192,12 +193,7 @@ void frmSelect_Weight::SaveSelectedWeight(qint32 weightId)
 
 void frmSelect_Weight::openWeight(qint32 weightId, const QString &mode, bool modal)
 {
-    RecordRequest request;
-    request.recordId = weightId;
-    request.keyField = QStringLiteral("WeightID");
-    request.table = QStringLiteral("tblWeight");
-    request.mode = mode;
-    openForRecord(*this, kEntryWindow, request, modal);
+    openForRecord(*this, kEntryWindow, recordOf(QStringLiteral("tblWeight"), QStringLiteral("WeightID"), weightId, mode), modal);
 }
 
 void frmSelect_Weight::newWeight()

@@ -117,6 +117,34 @@ test('diet and intake refuse database data for a hypothetical species; a hypothe
     expect(texts()).toEqual(['No Diet Items exist in this scenario. Dietary calculations will not be done.']);
 });
 
+test('a typed air rate is stored as base and adjusted rate; a 0 typed over it is not stored', () => {
+    const w = builder();
+    const air = () => db.query('Select * from tblIntakeZOB where IntakeTypeID = 1 And ScenarioID = ' + session.scenario.SID)[0];
+    w.control('ssTabSB').selectTab(3);
+    w.control('ssTabIntake').selectTab(0);
+    w.control('cmdSelect(7)').click();
+    expect(session.scenario.Air_DataSource).toBe(2);
+    expect(w.control('LblEstimator(0)').text).toBe('Estimated');
+    expect(w.control('txtUCF(0)').visible).toBeFalsy();
+    const rate = w.control('txtIntakeRate(0)');
+    rate.focus();
+    rate.setText('0.25');
+    rate.blur();
+    // The row counts as typed from the save after the one that marked it so.
+    expect([air().AdjustedRate, air().DataSourceID]).toEqual([0.25, 2]);
+    w.control('ssTabIntake').selectTab(1);
+    w.control('ssTabIntake').selectTab(0);
+    expect([air().AdjustedRate, air().BaseRate, air().DataSourceID, air().IntakeEquation, air().Units_CF]).toEqual([0.25, 0.25, 2, '', 1]);
+    ui.clearMessages();
+    w.control('cmdMoreInfo(3)').click();
+    expect(texts()).toEqual(['More Information not available for user entered data.']);
+    rate.focus();
+    rate.setText('0');
+    w.control('ssTabIntake').selectTab(4);
+    expect(air().AdjustedRate).toBe(0.25);
+    expect(w.control('cmdSelect(7)').visible).toBeFalsy();
+});
+
 test('closing saves, returns to the project, and the scenario reopens from it as it was', () => {
     const sid = session.scenario.SID;
     builder().control('txtNotes(0)').setText('Marsh rats are a guess');

@@ -103,6 +103,19 @@ test('the diet and intake pages refuse in their own words', () => {
     ui.clearMessages();
     w.control('cmdSelect(6)').click();
     expect(texts()).toEqual(['Weight not selected. Please select weight and then continue.']);
+    // Equations are looked for by the taxon on the species page: none for amphibians' air, and an
+    // empty taxon is reported as the failure it is, with the program going on.
+    w.control('cboTaxon').setText('Amphibians');
+    ui.clearMessages();
+    w.control('cmdSelect(6)').click();
+    expect(texts()).toEqual(['No data available']);
+    expect(ui.messages()[0].icon).toBe('information');
+    w.control('cboTaxon').setText('');
+    ui.clearMessages();
+    w.control('cmdSelect(6)').click();
+    expect(texts().length).toBe(1);
+    expect(texts()[0].indexOf('Error in routine cmdSelect_Click')).toBe(0);
+    w.control('cboTaxon').setText('Birds');
     w.control('ssTabIntake').selectTab(3);
     ui.clearMessages();
     w.control('cmdMoreInfo(3)').click();
