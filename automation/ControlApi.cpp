@@ -207,6 +207,18 @@ void ControlApi::selectRow(int row)
     });
 }
 
+void ControlApi::clickCell(int row, int column)
+{
+    withGrid([row, column](DataGrid *g) {
+        requireRow(g, row);
+        if (g->shownColumn(column) < 0)
+            throw BridgeError(QStringLiteral("%1 has no column %2").arg(g->objectName()).arg(column));
+        if (!g->clickCell(row, column))
+            throw BridgeError(QStringLiteral("%1: the cell (%2, %3) could not be written").arg(g->objectName()).arg(row).arg(column));
+        return QVariant();
+    });
+}
+
 void ControlApi::dblClickRow(int row)
 {
     withGrid([row](DataGrid *g) {

@@ -61,6 +61,8 @@ public:
     Q_INVOKABLE void headClick(const QJSValue &column);
     Q_INVOKABLE void dblClickRow(int row);
     Q_INVOKABLE QString cell(int row, int column) const;
+    //! Clicks a cell of a grid as a user does: its row becomes current and a check box cell toggles.
+    Q_INVOKABLE void clickCell(int row, int column);
     Q_INVOKABLE void selectTab(int index);
 
 private:

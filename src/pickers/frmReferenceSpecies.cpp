@@ -10,6 +10,7 @@
 #include "Recordset.h"
 #include "Session.h"
 #include "Utilities.h"
+#include "VbError.h"
 #include "VbFormat.h"
 #include "ZobToolbar.h"
 #include "frmSelect_Reference.h"
@@ -55,9 +56,14 @@ frmReferenceSpecies::frmReferenceSpecies(Session &session, QtWindowHost &host)
     QPushButton *closeButton = buttons.button(QStringLiteral("cmdClose"), QStringLiteral("&Close"));
     buttons.stretch();
     FormBuilder assigned = lists.column().frame(QStringLiteral("fraAssigned"), QStringLiteral("Assigned"));
+    auto tick = [](const char *field, const char *caption) {
+        GridColumn c{QString::fromLatin1(field), QString::fromLatin1(caption)};
+        c.check = true;
+        return c;
+    };
     m_grid[1] = assigned.grid(arrayName(QStringLiteral("grdReferences"), 1), m_dc[1],
-                              {{"ReferenceID"}, {"Reference"}, {"IsDistribution", "Distribution"}, {"IsHabitat", "Habitat"},
-                               {"IsDiet", "Diet"}, {"IsRelated", "Related"}}, true);
+                              {{"ReferenceID"}, {"Reference"}, tick("IsDistribution", "Distribution"), tick("IsHabitat", "Habitat"),
+                               tick("IsDiet", "Diet"), tick("IsRelated", "Related")}, true);
     auto command = [this](const char *name, std::function<void()> body) {
         return [this, name, body] { runCommand(QString::fromLatin1(name), body); };
     };
@@ -68,6 +74,9 @@ frmReferenceSpecies::frmReferenceSpecies(Session &session, QtWindowHost &host)
     connect(closeButton, &QPushButton::clicked, this, [this] { unloadMe(); });
     connect(m_grid[0], &DataGrid::DblClick, this, command("grdReferences_DblClick", [this] { assign(); }));
     connect(m_grid[1], &DataGrid::DblClick, this, command("grdReferences_DblClick", [this] { unassign(); }));
+    connect(m_dc[1], &DataControl::Error, this, [command](int number, const QString &description) {
+        command("grdReferences_Change", [number, description] { throw VbError(number, description); })();
+    });
     resize(980, 560);
 }
 
@@ -106,12 +115,19 @@ void frmReferenceSpecies::serveRequest()
 void frmReferenceSpecies::fillHeader()
 {
     const QString id = QStringLiteral("SpeciesID = %1").arg(recordRequest().recordId);
-    const QVariant taxon = session().Lookup(QStringLiteral("tblSpecies"), QStringLiteral("TaxonID"), id);
-    const QString taxonText = session().Lookup(QStringLiteral("tblTaxon"), QStringLiteral("Description"),
-                                               QStringLiteral("TaxonID = ") + vb::vbFormat(taxon, QString())).toString();
+    auto rs = session().gDB->OpenRecordset(QStringLiteral("Select Common, Latin, TaxonID From tblSpecies Where ") + id,
+                                           RecordsetType::Snapshot);
+    // A species that is gone has no lists: nothing can be linked to it.
+    if (rs->EOF_()) {
+        m_lblHeader->clear();
+        throw VbError::noCurrentRecord();
+    }
+    const QVariant taxon = rs->field(QStringLiteral("TaxonID"));
+    const QString taxonText = taxon.isNull() ? QString()
+                                             : session().Lookup(QStringLiteral("tblTaxon"), QStringLiteral("Description"),
+                                                                QStringLiteral("TaxonID = ") + vb::CStr(taxon)).toString();
     m_lblHeader->setText(QStringLiteral("Taxon: %1\nCommon Name: %2\nScientific Name: %3")
-                             .arg(taxonText, session().Lookup(QStringLiteral("tblSpecies"), QStringLiteral("Common"), id).toString(),
-                                  session().Lookup(QStringLiteral("tblSpecies"), QStringLiteral("Latin"), id).toString()));
+                             .arg(taxonText, rs->field(QStringLiteral("Common")).toString(), rs->field(QStringLiteral("Latin")).toString()));
 }
 
 void frmReferenceSpecies::loadLists()
@@ -120,6 +136,9 @@ void frmReferenceSpecies::loadLists()
     const QString text = ControlValue::text(m_txtInput);
     const QString sources[2] = {text.isEmpty() ? availableStatement(names(), species) : frmSelect_Reference::authorStatement(text),
                                 assignedStatement(species)};
+    // A tick in the assigned list is written to the species' own link row.
+    m_dc[1]->setWriteTable(QStringLiteral("jtblSpeciesReference"), {QStringLiteral("ReferenceID")},
+                           QStringLiteral("SpeciesID = %1").arg(species));
     for (int i = 0; i < 2; ++i) {
         m_dc[i]->setDatabase(session().gDB);
         m_dc[i]->setRecordSource(sources[i]);

@@ -20,8 +20,9 @@ PickerProfile frmSelect_AE::profile()
         "tblComponent.Description AS Component, tblAE.Mean, tblAE.Min, tblAE.Max, qryReference.Reference "
         "FROM qryReference RIGHT JOIN ((tblAE LEFT JOIN tblComponent ON tblAE.ComponentID = tblComponent.ComponentID) "
         "LEFT JOIN tblLifeStage ON tblAE.LifestageID = tblLifeStage.LifeStageID) ON qryReference.ReferenceID = tblAE.ReferenceID");
-    p.columns = {{"ConsumerName", "Consumer Name"}, {"FoodName", "Food Item"}, {"Lifestage"}, {"Component"},
-                 {"AEID"}, {"Mean"}, {"Min"}, {"Max"}};
+    p.columns = inGroup(QStringLiteral("Assimilation Efficiency Details"),
+                        {{"ConsumerName", "Consumer Name"}, {"FoodName", "Food Item"}, {"Lifestage"}, {"Component"}, {"AEID"}})
+                + inGroup(QStringLiteral("Assimilation Efficiency Value (kcal/g)"), {{"Mean"}, {"Min"}, {"Max"}});
     p.firstSort = p.filterSort = QStringLiteral("tblAE!ConsumerName");
     return p;
 }

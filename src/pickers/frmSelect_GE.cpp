@@ -22,10 +22,9 @@ PickerProfile frmSelect_GE::profile()
         "FROM ((qryReference RIGHT JOIN tblGrossEnergy ON qryReference.ReferenceID = tblGrossEnergy.ReferenceID) "
         "LEFT JOIN tblComponent ON tblGrossEnergy.ComponentID = tblComponent.ComponentID) "
         "LEFT JOIN tblLifeStage ON tblGrossEnergy.LifestageID = tblLifeStage.LifeStageID");
-    // Groups: the details, then wet and dry energy (kcal/g) as mean, min, max.
-    p.columns = {{"Item"}, {"Lifestage"}, {"Component"}, {"GrossEnergyID"},
-                 {"WET_WT_KCALG", "Mean"}, {"Min_W", "Min"}, {"Max_W", "Max"},
-                 {"DRY_WT_KCALG", "Mean"}, {"Min_D", "Min"}, {"Max_D", "Max"}};
+    p.columns = inGroup(QStringLiteral("Gross Energy Details"), {{"Item"}, {"Lifestage"}, {"Component"}, {"GrossEnergyID"}})
+                + inGroup(QStringLiteral("Gross Energy(kcal/g) - Wet"), {{"WET_WT_KCALG", "Mean"}, {"Min_W", "Min"}, {"Max_W", "Max"}})
+                + inGroup(QStringLiteral("Gross Energy(kcal/g) -  Dry"), {{"DRY_WT_KCALG", "Mean"}, {"Min_D", "Min"}, {"Max_D", "Max"}});
     p.firstSort = p.filterSort = QStringLiteral("tblGrossEnergy!Item");
     return p;
 }

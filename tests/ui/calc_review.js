@@ -167,3 +167,19 @@ test('a diet without energy values: the warning comes again and again, and the w
     expect(w === null || !w.visible).toBeTruthy();
     expect(scenarioRows(none)).toBe(before);
 });
+
+test('a new gross energy chosen for a scenario item in its picker shows in MEavg, TDI and the item row', () => {
+    const richer = energy(80, 3.0, 6.0);
+    const beetles = db.query("Select DietItemID From tblWildlifeDietItems Where Name = 'Beetles' And ScenarioID = " + full)[0].DietItemID;
+    pickers.open('frmSelect_GE', { recordId: beetles, table: 'tblWildlifeDietItems', keyField: 'DietItemID', selectedId: 0 });
+    const grid = ui.window('frmSelect_GE').control('ssCmbSearch');
+    const key = grid.columns.indexOf('GrossEnergyID');
+    grid.selectRow(grid.rows.findIndex(r => Number(r[key]) === richer));
+    ui.window('frmSelect_GE').toolbar().click('Select');
+    expect(ui.windows()).not.toContain('frmSelect_GE');
+    // MEavg = .8 * 3 * .6 + .5 * 1.5 * .4 = 1.74; TDI = 126 / 1.74 = 72.41; beetles' ME .8 * 3 = 2.4.
+    const w = review('full.ZOB', true);
+    expect(['4', '5'].map(i => w.control('txtWildLifeScenario(' + i + ')').text)).toEqual(['72.41', '1.74']);
+    expect(w.control('ssGrdDietItems').rows[0].slice(0, 4)).toEqual(['Beetles', '3.', '80.0', '2.4']);
+    w.toolbar().click('Close');
+});

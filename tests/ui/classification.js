@@ -130,3 +130,28 @@ test('the text search: exact and partial finds, find next, no match, an apostrop
     const row = db.query('Select * From tblDietItem Where DietItemID = 980004')[0];
     for (const l of levels) expect(row[l]).toBe(chain[l]);
 });
+
+test('a record that is gone, a table without classification, a * search: reported or harmless; nothing written', () => {
+    const before = JSON.stringify(db.query('Select * From tblDataSource'));
+    for (const caller of [{ recordId: 989999, table: 'tblDietItem', keyField: 'DietItemID' },
+                          { recordId: 1, table: 'tblDataSource', keyField: 'DataSourceID' }]) {
+        pickers.open('frmSelect_Classification', caller);
+        const w = ui.window('frmSelect_Classification');
+        w.control('ssCmbFamily').select(nameOf(5, chain.FamilyID));
+        ui.clearMessages();
+        w.toolbar().click('Select');
+        expect(texts().length).toBe(1);
+        expect(texts()[0]).toContain(caller.recordId === 1 ? 'Item not found in this collection. (KingdomID)' : 'No current record.');
+        expect(w.visible).toBeTruthy();
+        w.toolbar().click('Close');
+    }
+    expect(db.query('Select Count(*) As N From tblDietItem Where DietItemID = 989999')[0].N).toBe(0);
+    expect(JSON.stringify(db.query('Select * From tblDataSource'))).toBe(before);
+    pickers.open('frmFind_Classification', { recordId: 989999, table: 'tblDietItem', keyField: 'DietItemID' });
+    const f = ui.window('frmFind_Classification');
+    ui.clearMessages();
+    f.control('txtSearch').setText('*');
+    f.control('cmdFind(0)').click();   // a wildcard: the first row matches
+    expect([texts(), f.control('ssCmbSearch').currentRow]).toEqual([[], 0]);
+    f.toolbar().click('Close');
+});

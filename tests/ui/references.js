@@ -90,6 +90,14 @@ test('a species\' references move both ways; an assigned one is never offered ag
     expect(assignedIds()).toContain(moved);
     expect(ids(available)).not.toContain(moved);
     expect(ids(assigned)).toContain(moved);
+    // A tick is written to this species' link alone at once; a second click clears it.
+    db.exec('Insert Into jtblSpeciesReference (SpeciesID, ReferenceID) Values (985999, ' + moved + ')');
+    const diet = sid => db.query('Select IsDiet From jtblSpeciesReference Where SpeciesID = ' + sid + ' And ReferenceID = ' + moved)[0].IsDiet;
+    const row = ids(assigned).indexOf(moved), col = assigned.columns.indexOf('Diet');
+    assigned.clickCell(row, col);
+    expect([diet(species.SpeciesID), diet(985999), assigned.cell(row, col), assigned.currentRow]).toEqual([true, false, 'True', row]);
+    assigned.clickCell(row, col);
+    expect([diet(species.SpeciesID), assigned.cell(row, col)]).toEqual([false, 'False']);
     available.dblClickRow(0);
     expect(assignedIds().length).toBe(before + 2);
     const back = ids(assigned).indexOf(moved);
@@ -99,6 +107,16 @@ test('a species\' references move both ways; an assigned one is never offered ag
     expect(ids(available)).toContain(moved);
     assigned.dblClickRow(0);
     expect(assignedIds().length).toBe(before);
+    w.control('txtInput').setText('*');   // a wildcard lists every reference
+    sameSet(ids(available), byAuthor());
     w.control('cmdClose').click();
     expect(ui.windows()).not.toContain('frmReferenceSpecies');
+    // A species that is gone is reported; nothing can be linked to it.
+    ui.clearMessages();
+    pickers.open('frmReferenceSpecies', { recordId: 989999, mode: 'Write' });
+    ui.window('frmReferenceSpecies').control('cmdAssign').click();
+    expect(texts().length).toBe(2);
+    expect(texts().every(t => t.indexOf('No current record.') > 0)).toBeTruthy();
+    expect(db.query('Select Count(*) As N From jtblSpeciesReference Where SpeciesID = 989999')[0].N).toBe(0);
+    ui.window('frmReferenceSpecies').control('cmdClose').click();
 });

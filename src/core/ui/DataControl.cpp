@@ -15,6 +15,8 @@
 #include <QLabel>
 #include <QMetaMethod>
 #include <QMouseEvent>
+#include <QPainter>
+#include <QStyleOptionHeader>
 #include <QStandardItemModel>
 #include <QStyleOptionViewItem>
 #include <QToolButton>
@@ -37,6 +39,24 @@ bool sameValue(const QVariant &a, const QVariant &b)
     if (an || bn)
         return an == bn;
     return a.toString() == b.toString();
+}
+
+//! A value as a Jet literal: null, a boolean, a number, or quoted text with its quotes doubled.
+QString jetLiteral(const QVariant &v)
+{
+    if (v.isNull() || !v.isValid())
+        return QStringLiteral("Null");
+    switch (v.typeId()) {
+    case QMetaType::Bool:
+        return v.toBool() ? QStringLiteral("True") : QStringLiteral("False");
+    case QMetaType::Int:
+    case QMetaType::LongLong:
+    case QMetaType::Double:
+    case QMetaType::Float:
+        return v.toString();
+    default:
+        return QLatin1Char('\'') + v.toString().replace(QLatin1Char('\''), QStringLiteral("''")) + QLatin1Char('\'');
+    }
 }
 }  // namespace
 
@@ -85,6 +105,7 @@ void DataControl::Refresh()
     auto rs = m_db->OpenRecordset(m_source, RecordsetType::Dynaset);
     emit aboutToRefresh();
     m_rs = std::move(rs);
+    m_written.clear();
     m_fields = m_rs->fieldNames();
     countRows();
     emit refreshed();
@@ -125,7 +146,47 @@ QVariant DataControl::value(int row, int column) const
 {
     if (!m_rs || row < 0 || row >= m_count || column < 0 || column >= m_fields.size() || !m_rs->fetchTo(row))
         return {};
+    if (const auto written = m_written.constFind({row, column}); written != m_written.cend())
+        return *written;
     return m_rs->valueAt(row, column);
+}
+
+void DataControl::setWriteTable(const QString &table, const QStringList &keyFields, const QString &sharedCriteria)
+{
+    m_writeTable = {table, keyFields, sharedCriteria};
+}
+
+bool DataControl::writeValue(int row, const QString &field, const QVariant &value)
+{
+    if (!m_rs || row < 0 || row >= m_count || fieldIndex(field) < 0)
+        return false;
+    moveTo(row);
+    try {
+        if (m_rs->updatable() || m_writeTable.table.isEmpty()) {
+            m_rs->Edit();   // a recordset that cannot be written throws 3027 here
+            m_rs->setField(field, value);
+            m_rs->Update();
+        } else {
+            writeToTable(row, field, value);
+        }
+        refreshRow(row);
+        return true;
+    } catch (const VbError &e) {
+        writeFailed(e);
+        return false;
+    }
+}
+
+void DataControl::writeToTable(int row, const QString &field, const QVariant &value)
+{
+    QStringList where;
+    if (!m_writeTable.shared.isEmpty())
+        where << m_writeTable.shared;
+    for (const QString &key : m_writeTable.keys)
+        where << QStringLiteral("%1 = %2").arg(key, jetLiteral(this->value(row, key)));
+    m_db->Execute(QStringLiteral("UPDATE %1 SET %2 = %3 WHERE %4")
+                      .arg(m_writeTable.table, field, jetLiteral(value), where.join(QStringLiteral(" AND "))));
+    m_written.insert({row, fieldIndex(field)}, value);
 }
 
 void DataControl::MoveFirst()
@@ -229,13 +290,18 @@ void DataControl::leaveRow()
             b->shown = ControlValue::boundValue(b->widget);
         refreshRow(row);
     } catch (const VbError &e) {
-        if (m_rs->editMode() != Recordset::EditMode::None)
-            m_rs->CancelUpdate();
-        if (isSignalConnected(QMetaMethod::fromSignal(&DataControl::Error)))
-            emit Error(e.number(), e.description());
-        else
-            std::fprintf(stderr, "%s: %d %s\n", qPrintable(objectName()), e.number(), qPrintable(e.description()));
+        writeFailed(e);
     }
+}
+
+void DataControl::writeFailed(const VbError &e)
+{
+    if (m_rs->editMode() != Recordset::EditMode::None)
+        m_rs->CancelUpdate();
+    if (isSignalConnected(QMetaMethod::fromSignal(&DataControl::Error)))
+        emit Error(e.number(), e.description());
+    else
+        std::fprintf(stderr, "%s: %d %s\n", qPrintable(objectName()), e.number(), qPrintable(e.description()));
 }
 
 void DataControl::bind(QWidget *control, const QString &field)
@@ -358,13 +424,36 @@ QString RecordsetModel::text(int row, int column) const
     }
 }
 
+bool RecordsetModel::isCheck(int column) const
+{
+    return m_dc && !m_checks.isEmpty() && m_checks.contains(m_dc->fields().value(column).toLower());
+}
+
+Qt::ItemFlags RecordsetModel::flags(const QModelIndex &index) const
+{
+    const Qt::ItemFlags base = QAbstractTableModel::flags(index);
+    return index.isValid() && isCheck(index.column()) ? base | Qt::ItemIsUserCheckable : base;
+}
+
+bool RecordsetModel::setData(const QModelIndex &index, const QVariant &value, int role)
+{
+    if (!index.isValid() || !m_dc || role != Qt::CheckStateRole || !isCheck(index.column()))
+        return false;
+    const bool on = value.toInt() == Qt::Checked;
+    return m_dc->writeValue(index.row(), m_dc->fields().value(index.column()), on);
+}
+
 QVariant RecordsetModel::data(const QModelIndex &index, int role) const
 {
     if (!index.isValid() || !m_dc)
         return {};
     switch (role) {
     case Qt::DisplayRole:
-        return text(index.row(), index.column());
+        return isCheck(index.column()) ? QVariant() : QVariant(text(index.row(), index.column()));
+    case Qt::CheckStateRole:
+        if (!isCheck(index.column()))
+            return {};
+        return m_dc->value(index.row(), index.column()).toBool() ? Qt::Checked : Qt::Unchecked;
     case Qt::EditRole:
         return m_dc->value(index.row(), index.column());
     case Qt::ForegroundRole:
@@ -397,6 +486,72 @@ QVariant RecordsetModel::headerData(int section, Qt::Orientation orientation, in
 }
 
 // --- DataGrid ---
+
+QList<GridColumn> inGroup(const QString &group, QList<GridColumn> columns)
+{
+    for (GridColumn &c : columns)
+        c.group = group;
+    return columns;
+}
+
+namespace {
+//! Column heads with a band above them: neighbouring shown columns of one group share one caption.
+class GroupedHeader : public QHeaderView {
+public:
+    explicit GroupedHeader(DataGrid *grid) : QHeaderView(Qt::Horizontal, grid), m_grid(grid)
+    {
+        setSectionsClickable(true);
+        setHighlightSections(false);
+    }
+
+    QSize sizeHint() const override
+    {
+        QSize size = QHeaderView::sizeHint();
+        size.setHeight(size.height() * 2);
+        return size;
+    }
+
+protected:
+    void paintSection(QPainter *painter, const QRect &rect, int logical) const override
+    {
+        const int half = rect.height() / 2;
+        painter->save();
+        QHeaderView::paintSection(painter, rect.adjusted(0, half, 0, 0), logical);
+        painter->restore();
+        // The band spans the shown neighbours of the same group; each section paints its own part.
+        const QString group = m_grid->columnGroup(logical);
+        const int at = visualIndex(logical);
+        auto reach = [&](int step) {
+            int end = at;
+            for (int v = at + step; !group.isEmpty() && v >= 0 && v < count(); v += step) {
+                const int other = logicalIndex(v);
+                if (isSectionHidden(other))
+                    continue;
+                if (m_grid->columnGroup(other) != group)
+                    break;
+                end = v;
+            }
+            return end;
+        };
+        const int first = reach(-1), last = reach(1);
+        const int left = sectionViewportPosition(logicalIndex(first));
+        const int right = sectionViewportPosition(logicalIndex(last)) + sectionSize(logicalIndex(last));
+        QStyleOptionHeader band;
+        initStyleOption(&band);
+        band.rect = QRect(left, rect.y(), right - left, half);
+        band.text = group;
+        band.textAlignment = Qt::AlignCenter;
+        band.position = QStyleOptionHeader::Middle;
+        painter->save();
+        painter->setClipRect(QRect(rect.x(), rect.y(), rect.width(), half));
+        style()->drawControl(QStyle::CE_Header, &band, painter, this);
+        painter->restore();
+    }
+
+private:
+    DataGrid *m_grid;
+};
+}  // namespace
 
 DataGrid::DataGrid(const QString &name, QWidget *parent) : QTableView(parent)
 {
@@ -482,6 +637,14 @@ void DataGrid::setColumns(const QList<GridColumn> &columns, bool onlyThese)
             m_onlyShown.append(field);
         if (c.width > 0)
             m_widths.insert(field, c.width);
+        if (!c.group.isEmpty())
+            m_groups.insert(field, c.group);
+        if (c.check && m_model)
+            m_model->setCheck(c.field);
+    }
+    if (!m_groups.isEmpty() && !dynamic_cast<GroupedHeader *>(horizontalHeader())) {
+        setHorizontalHeader(new GroupedHeader(this));
+        connect(horizontalHeader(), &QHeaderView::sectionClicked, this, &DataGrid::HeadClick);
     }
     applyHidden();
 }
@@ -563,6 +726,33 @@ QStringList DataGrid::columnCaptions() const
     for (int n = 0, c = shownColumn(0); c >= 0; c = shownColumn(++n))
         out << m_model->headerData(c, Qt::Horizontal).toString();
     return out;
+}
+
+QString DataGrid::columnGroup(int column) const
+{
+    DataControl *d = dataControl();
+    return d && !m_groups.isEmpty() ? m_groups.value(d->fields().value(column).toLower()) : QString();
+}
+
+QStringList DataGrid::columnGroups() const
+{
+    QStringList out;
+    for (int n = 0, c = shownColumn(0); c >= 0; c = shownColumn(++n))
+        out << columnGroup(c);
+    return out;
+}
+
+bool DataGrid::clickCell(int row, int shownCol)
+{
+    const int c = shownColumn(shownCol);
+    if (!m_model || c < 0 || row < 0 || row >= m_model->rowCount())
+        return false;
+    selectRowIndex(row);
+    const QModelIndex index = m_model->index(row, c);
+    if (!m_model->isCheck(c))
+        return true;
+    const bool on = index.data(Qt::CheckStateRole).toInt() == Qt::Checked;
+    return m_model->setData(index, on ? Qt::Unchecked : Qt::Checked, Qt::CheckStateRole);
 }
 
 QStringList DataGrid::rowTexts(int row) const

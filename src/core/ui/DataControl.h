@@ -5,6 +5,7 @@
 #include <QColor>
 #include <QHash>
 #include <QPointer>
+#include <QSet>
 #include <QTableView>
 #include <QVariant>
 #include <QVector>
@@ -17,6 +18,7 @@ class QComboBox;
 class QLabel;
 class QToolButton;
 class Recordset;
+class VbError;
 
 //! A data control: a record source (Jet SQL) on a database, its recordset and current row, a caption
 //! "Record: n of m", a Reposition signal, and the boxes bound to its columns. Refresh reads the first
@@ -58,6 +60,15 @@ public:
     void UpdateControls();
     //! Tells the grids that a row's values changed in the recordset.
     void refreshRow(int row);
+    //! Writes one value of a row at once, as an edit in a grid cell does: the data control goes to
+    //! the row and writes through its recordset when that rests on one table, otherwise into the
+    //! write-back table (setWriteTable). False, with the failure reported as a write-back failure is
+    //! (Error), when the value could not be written.
+    bool writeValue(int row, const QString &field, const QVariant &value);
+    //! Where writeValue puts the values of a record source that cannot be written itself (a join): the
+    //! table whose record a row shows, found by the row's keyFields (same names in the table) and by a
+    //! criterion that every row shares (Jet, may be empty).
+    void setWriteTable(const QString &table, const QStringList &keyFields, const QString &sharedCriteria = {});
 
     //! The rows of the record source at the last Refresh: counted by the database unless the first
     //! rows read were all of them.
@@ -100,6 +111,9 @@ private:
     void arrive();
     void showRow();
     void countRows();
+    void writeToTable(int row, const QString &field, const QVariant &value);
+    //! Drops the edit under way and reports a failed write.
+    void writeFailed(const VbError &e);
 
     std::shared_ptr<Database> m_db;
     QString m_source;
@@ -107,6 +121,12 @@ private:
     QStringList m_fields;
     int m_count = 0;
     QVector<Binding> m_bindings;
+    struct WriteTable {
+        QString table;
+        QStringList keys;
+        QString shared;
+    } m_writeTable;
+    QHash<QPair<int, int>, QVariant> m_written;   // values written to the write table since the Refresh
     QLabel *m_caption;
     QToolButton *m_first, *m_prev, *m_next, *m_last;
 };
@@ -138,6 +158,11 @@ public:
 
     void setCaption(const QString &field, const QString &caption) { m_captions.insert(field.toLower(), caption); }
     void setFormat(const QString &field, const QString &pattern) { m_formats.insert(field.toLower(), pattern); }
+    //! Shows a column as a check box that the user ticks in place; the data control writes it.
+    void setCheck(const QString &field) { m_checks.insert(field.toLower()); }
+    bool isCheck(int column) const;
+    Qt::ItemFlags flags(const QModelIndex &index) const override;
+    bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
     void setRowStyler(std::function<RowStyle(int row)> styler) { m_styler = std::move(styler); }
     //! The text shown in a cell.
     QString text(int row, int column) const;
@@ -147,6 +172,7 @@ private:
     QPointer<DataControl> m_dc;
     QHash<QString, QString> m_captions;
     QHash<QString, QString> m_formats;
+    QSet<QString> m_checks;
     std::function<RowStyle(int)> m_styler;
 };
 
@@ -160,7 +186,14 @@ struct GridColumn {
     bool hidden = false;
     //! The width in average characters; 0 fits the contents.
     int width = 0;
+    //! The caption of the band above the heads that neighbouring columns of the same group share.
+    QString group = {};
+    //! A check box ticked in place; the data control writes the value.
+    bool check = false;
 };
+
+//! The columns given, all under one group caption.
+QList<GridColumn> inGroup(const QString &group, QList<GridColumn> columns);
 
 //! A grid bound to a data control (ssGrd...). Selecting a row moves the data control, and a move of the
 //! data control selects the row. Head click, row change, double click and key down are signals.
@@ -188,6 +221,13 @@ public:
 
     //! The captions of the shown columns, in order, and the texts of a row's shown cells.
     QStringList columnCaptions() const;
+    //! The group of each shown column, in order ("" for none).
+    QStringList columnGroups() const;
+    //! The group of a logical column.
+    QString columnGroup(int column) const;
+    //! A click on a cell as a user gives it: the row becomes current, and a check box cell is ticked or
+    //! cleared (and written). False when the check could not be written.
+    bool clickCell(int row, int shownColumn);
     QStringList rowTexts(int row) const;
     QString cellText(int row, int shownColumn) const;
     //! The logical column of the n-th shown column.
@@ -216,6 +256,7 @@ private:
     QStringList m_hidden;
     QStringList m_onlyShown;        // when set, the only fields shown
     QHash<QString, int> m_widths;   // field -> width in characters
+    QHash<QString, QString> m_groups;   // field -> group caption
     bool m_syncing = false;
     int m_lastRow = -1;
 };
