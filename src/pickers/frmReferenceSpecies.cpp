@@ -46,7 +46,7 @@ frmReferenceSpecies::frmReferenceSpecies(Session &session, QtWindowHost &host)
     FormBuilder::userTyped(m_txtInput);
     QPushButton *viewAll = search.button(QStringLiteral("cmdSearch"), QStringLiteral("&View All"));
     FormBuilder lists = b.row(1);
-    FormBuilder available = lists.column().frame(QStringLiteral("fraAvailable"), QStringLiteral("Not Assigned/Available"));
+    FormBuilder available = lists.column(4).frame(QStringLiteral("fraAvailable"), QStringLiteral("Not Assigned/Available"));
     for (int i = 0; i < 2; ++i)
         m_dc[i] = b.hiddenData(arrayName(QStringLiteral("dcReferences"), i));
     m_grid[0] = available.grid(arrayName(QStringLiteral("grdReferences"), 0), m_dc[0], {{"ReferenceID"}, {"Reference"}}, true);
@@ -55,7 +55,7 @@ frmReferenceSpecies::frmReferenceSpecies(Session &session, QtWindowHost &host)
     QPushButton *removeButton = buttons.button(QStringLiteral("cmdRemove"), QStringLiteral("Unselect"));
     QPushButton *closeButton = buttons.button(QStringLiteral("cmdClose"), QStringLiteral("&Close"));
     buttons.stretch();
-    FormBuilder assigned = lists.column().frame(QStringLiteral("fraAssigned"), QStringLiteral("Assigned"));
+    FormBuilder assigned = lists.column(5).frame(QStringLiteral("fraAssigned"), QStringLiteral("Assigned"));
     auto tick = [](const char *field, const char *caption) {
         GridColumn c{QString::fromLatin1(field), QString::fromLatin1(caption)};
         c.check = true;
@@ -77,7 +77,7 @@ frmReferenceSpecies::frmReferenceSpecies(Session &session, QtWindowHost &host)
     connect(m_dc[1], &DataControl::Error, this, [command](int number, const QString &description) {
         command("grdReferences_Change", [number, description] { throw VbError(number, description); })();
     });
-    resize(980, 560);
+    resize(1180, 560);
 }
 
 AssignmentNames frmReferenceSpecies::names()
@@ -143,7 +143,8 @@ void frmReferenceSpecies::loadLists()
         m_dc[i]->setDatabase(session().gDB);
         m_dc[i]->setRecordSource(sources[i]);
         m_dc[i]->Refresh();
-        m_grid[i]->fitColumns(60);
+        // The assigned list keeps its references short so that the four marks stay in view.
+        m_grid[i]->fitColumns(i == 0 ? 60 : 22);
     }
 }
 

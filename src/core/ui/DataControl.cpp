@@ -501,19 +501,24 @@ public:
     explicit GroupedHeader(DataGrid *grid) : QHeaderView(Qt::Horizontal, grid), m_grid(grid)
     {
         setSectionsClickable(true);
-        setHighlightSections(false);
+        setHighlightSections(true);
     }
 
     QSize sizeHint() const override
     {
         QSize size = QHeaderView::sizeHint();
-        size.setHeight(size.height() * 2);
+        if (m_grid->hasColumnGroups())
+            size.setHeight(size.height() * 2);
         return size;
     }
 
 protected:
     void paintSection(QPainter *painter, const QRect &rect, int logical) const override
     {
+        if (!m_grid->hasColumnGroups()) {
+            QHeaderView::paintSection(painter, rect, logical);
+            return;
+        }
         const int half = rect.height() / 2;
         painter->save();
         QHeaderView::paintSection(painter, rect.adjusted(0, half, 0, 0), logical);
@@ -538,9 +543,14 @@ protected:
         const int right = sectionViewportPosition(logicalIndex(last)) + sectionSize(logicalIndex(last));
         QStyleOptionHeader band;
         initStyleOption(&band);
-        band.rect = QRect(left, rect.y(), right - left, half);
+        // The caption stands in the middle of the part of the band in view, so that it stays readable
+        // while the grid scrolls; where that part is too narrow it starts at the band's edge in view.
+        const QRect span(left, rect.y(), right - left, half);
+        const QRect inView = span.intersected(QRect(0, rect.y(), viewport()->width(), half));
+        const bool fits = inView.width() >= fontMetrics().horizontalAdvance(group) + 2 * style()->pixelMetric(QStyle::PM_HeaderMargin);
+        band.rect = fits ? inView : span;
         band.text = group;
-        band.textAlignment = Qt::AlignCenter;
+        band.textAlignment = fits ? Qt::AlignCenter : (left >= 0 ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter;
         band.position = QStyleOptionHeader::Middle;
         painter->save();
         painter->setClipRect(QRect(rect.x(), rect.y(), rect.width(), half));
@@ -556,6 +566,7 @@ private:
 DataGrid::DataGrid(const QString &name, QWidget *parent) : QTableView(parent)
 {
     setObjectName(name);
+    setHorizontalHeader(new GroupedHeader(this));
     setSelectionBehavior(QAbstractItemView::SelectRows);
     setSelectionMode(QAbstractItemView::SingleSelection);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -642,10 +653,8 @@ void DataGrid::setColumns(const QList<GridColumn> &columns, bool onlyThese)
         if (c.check && m_model)
             m_model->setCheck(c.field);
     }
-    if (!m_groups.isEmpty() && !dynamic_cast<GroupedHeader *>(horizontalHeader())) {
-        setHorizontalHeader(new GroupedHeader(this));
-        connect(horizontalHeader(), &QHeaderView::sectionClicked, this, &DataGrid::HeadClick);
-    }
+    if (!m_groups.isEmpty())
+        horizontalHeader()->updateGeometry();
     applyHidden();
 }
 
@@ -659,6 +668,34 @@ void DataGrid::fitColumns(int maxChars, int minChars)
             width = std::min(width, maxChars * charWidth);
         setColumnWidth(c, width);
     }
+    widenGroups();
+}
+
+void DataGrid::widenGroups()
+{
+    if (m_groups.isEmpty())
+        return;
+    // The shown columns of a group together are at least as wide as the group's caption.
+    const int padding = 2 * fontMetrics().horizontalAdvance(QLatin1Char('M'));
+    QList<int> run;
+    auto widen = [&] {
+        if (run.isEmpty())
+            return;
+        int total = 0;
+        for (int c : run)
+            total += columnWidth(c);
+        const int missing = fontMetrics().horizontalAdvance(columnGroup(run.first())) + padding - total;
+        for (int i = 0; missing > 0 && i < run.size(); ++i)
+            setColumnWidth(run[i], columnWidth(run[i]) + missing / run.size() + (i < missing % run.size() ? 1 : 0));
+        run.clear();
+    };
+    for (int n = 0, c = shownColumn(0); c >= 0; c = shownColumn(++n)) {
+        if (!run.isEmpty() && columnGroup(run.first()) != columnGroup(c))
+            widen();
+        if (!columnGroup(c).isEmpty())
+            run << c;
+    }
+    widen();
 }
 
 void DataGrid::applyHidden()

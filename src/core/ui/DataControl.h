@@ -225,6 +225,7 @@ public:
     QStringList columnGroups() const;
     //! The group of a logical column.
     QString columnGroup(int column) const;
+    bool hasColumnGroups() const { return !m_groups.isEmpty(); }
     //! A click on a cell as a user gives it: the row becomes current, and a check box cell is ticked or
     //! cleared (and written). False when the check could not be written.
     bool clickCell(int row, int shownColumn);
@@ -252,6 +253,8 @@ protected:
 
 private:
     void applyHidden();
+    //! Widens the columns of a group that are together narrower than its caption.
+    void widenGroups();
     RecordsetModel *m_model = nullptr;
     QStringList m_hidden;
     QStringList m_onlyShown;        // when set, the only fields shown
