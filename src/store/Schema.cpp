@@ -248,6 +248,10 @@ QStringList schemaStatements()
     out.append(QLatin1String(kReferenceView));
     // A scenario is linked to a project once: a second link is a duplicate key.
     out.append(QStringLiteral("CREATE UNIQUE INDEX jtblProjectScenario_Link ON jtblProjectScenario (ProjectID, ScenarioID)"));
+    // The value lists join the references to each value table from the references' side, so each
+    // reference looks up its values: without these indexes every reference scans the whole table.
+    for (const char *table : {"tblGrossEnergy", "tblAE", "tblWaterConversion", "tblTrophicLevel"})
+        out.append(QStringLiteral("CREATE INDEX IF NOT EXISTS %1_Reference ON %1 (ReferenceID)").arg(QLatin1String(table)));
     return out;
 }
 
