@@ -214,6 +214,7 @@ void DataControl::leaveRow()
     const int row = currentRow();
     if (row < 0)
         return;
+    emit leavingRow();
     QVector<Binding *> changed;
     for (Binding &b : m_bindings)
         if (b.widget && !b.readOnly && !sameValue(ControlValue::boundValue(b.widget), b.shown))

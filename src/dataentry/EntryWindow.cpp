@@ -1,0 +1,374 @@
+// SPDX-License-Identifier: MIT
+#include "EntryWindow.h"
+
+#include "ControlValue.h"
+#include "DataControl.h"
+#include "Diagnostics.h"
+#include "QtWindowHost.h"
+#include "Recordset.h"
+#include "Session.h"
+#include "Utilities.h"
+#include "VbFormat.h"
+#include "Wildlife.h"
+#include "ZobToolbar.h"
+#include "SpeciesHeader.h"
+#include "frmDE_Measurement.h"
+
+#include <QAction>
+#include <QComboBox>
+#include <QLabel>
+#include <QPushButton>
+
+namespace {
+//! Two values of a field are the same when both are null or both read alike.
+bool sameValue(const QVariant &a, const QVariant &b)
+{
+    if (a.isNull() || b.isNull())
+        return a.isNull() == b.isNull();
+    return a.toString() == b.toString();
+}
+}  // namespace
+
+EntryWindow::EntryWindow(Session &session, QtWindowHost &host, const QString &name, EntryProfile profile)
+    : RequestWindow(session, host, name), m_profile(std::move(profile)), m_body(this)
+{
+    setCaption(m_profile.caption);
+    HelpContextID = 2575;
+    buildToolbar(m_body, {ToolButton::separator(),
+                          {"New", "Add a record", "New", [this] { newRecord(); }},
+                          ToolButton::separator(),
+                          {"Save", "Save the record", "Save", [this] { save(); }},
+                          ToolButton::separator(),
+                          {"Select", "Return to the window that asked", "Select", [this] { unloadMe(); }},
+                          ToolButton::separator(),
+                          {"Close", "Close and go back to the list", "Close", [this] { closeWindow(); }},
+                          ToolButton::separator(),
+                          {"Help", "Help", "Help", [this] { showHelp(); }}},
+                 QStringLiteral(" ") + name + QStringLiteral(".TB_MDI_ButtonClick"));
+    if (m_profile.speciesPanel)
+        m_lblSpecies = m_body.frame(QStringLiteral("fraMain"), QStringLiteral("Species"))
+                           .label(QStringLiteral("lblSpecies"), QString());
+}
+
+void EntryWindow::Form_Load()
+{
+    // The navigator comes last, below the member's fields.
+    m_dc = m_body.dataControl(m_profile.dataControl);
+    m_dc->setDatabase(session().gDB);
+    connect(m_dc, &DataControl::Reposition, this, [this] {
+        runCommand(m_profile.dataControl + QStringLiteral("_Reposition"), [this] { showRow(); });
+    });
+    connect(m_dc, &DataControl::leavingRow, this, [this] {
+        runCommand(m_profile.dataControl + QStringLiteral("_Validate"), [this] { writeRow(); });
+    });
+    for (const Lookup &l : std::as_const(m_lookups))
+        fillCombo(l.combo, *session().gDB, l.sql, l.listField, l.boundColumn);
+}
+
+void EntryWindow::Form_Unload(bool &cancel)
+{
+    Q_UNUSED(cancel);
+    // Leaving the window leaves the row: what was typed is kept, as on a move.
+    if (m_dc && m_dc->currentRow() >= 0)
+        runCommand(m_profile.dataControl + QStringLiteral("_Validate"), [this] { writeRow(); });
+    disconnect(m_dc, nullptr, this, nullptr);
+}
+
+void EntryWindow::addField(QWidget *control, const QString &column)
+{
+    m_fields.append({control, column, {}});
+    if (ControlValue::kind(control) == QLatin1String("text"))
+        FormBuilder::userTyped(control);
+}
+
+QWidget *EntryWindow::textField(FormBuilder &b, const QString &name, const QString &caption, const QString &column, int lines)
+{
+    if (lines > 0)
+        return field(b.memo(name, caption, lines), column);
+    return field(b.textBox(name, caption), column);
+}
+
+QComboBox *EntryWindow::listField(FormBuilder &b, const QString &name, const QString &caption, const QString &column,
+                                  const QString &sql, const QString &listField)
+{
+    QComboBox *combo = field(b.combo(name, caption), column);
+    lookup(combo, sql, listField, column);
+    return combo;
+}
+
+void EntryWindow::lookup(QComboBox *combo, const QString &sql, const QString &listField, const QString &boundColumn)
+{
+    m_lookups.append({combo, sql, listField, boundColumn});
+}
+
+void EntryWindow::computed(QWidget *control, std::function<QString(qint32)> text)
+{
+    ControlValue::setLocked(control, true);
+    m_readOnly.append(control);
+    m_computed.append({control, std::move(text)});
+}
+
+QPushButton *EntryWindow::recordButton(FormBuilder &b, const QString &name, int index, const QString &caption,
+                                       std::function<void()> handler)
+{
+    QPushButton *button = index < 0 ? b.button(name, caption) : b.button(name, index, caption);
+    const QString routineName = (index < 0 ? name : arrayName(name, index)) + QStringLiteral("_Click");
+    connect(button, &QPushButton::clicked, this, [this, routineName, handler] { runCommand(routineName, handler); });
+    m_recordButtons.append(button);
+    return button;
+}
+
+void EntryWindow::dataSourceField(FormBuilder &b)
+{
+    auto *cbo = field(b.combo(QStringLiteral("cboDataSource"), QStringLiteral("Data Source:")), QStringLiteral("DataSourceID"));
+    lookup(cbo, QStringLiteral("SELECT tblDataSource.DataSourceID, tblDataSource.Description From tblDataSource "
+                               "ORDER BY tblDataSource.Description;"),
+           QStringLiteral("Description"), QStringLiteral("DataSourceID"));
+    m_lblDataQuality = b.label(QStringLiteral("lblDataQuality"), QString());
+}
+
+void EntryWindow::classificationField(FormBuilder &b, const QString &mode)
+{
+    QWidget *text = b.textBox(QStringLiteral("txtClassification"), QStringLiteral("Classification:"));
+    computed(text, [this](qint32 id) { return GetClassificationText(session(), id, m_profile.table, m_profile.key); });
+    recordButton(b, QStringLiteral("cmdClassification"), -1, QStringLiteral("&Classification"), [this, mode] {
+        openForRecord(QStringLiteral("frmSelect_Classification"), mode, 0, true);
+        refreshComputed();
+    });
+}
+
+void EntryWindow::referenceFrame(FormBuilder &b)
+{
+    FormBuilder f = b.frame(QStringLiteral("fraReference"), QStringLiteral("Reference"), true);
+    recordButton(f, QStringLiteral("cmdReference"), -1, QStringLiteral("&Reference"), [this] {
+        const QVariant ref = currentValue(QStringLiteral("ReferenceID"));
+        openForRecord(QStringLiteral("frmSelect_Reference"), QStringLiteral("Read"), ref.isNull() ? 0 : vb::CLng(ref), false);
+        LoadData();
+    });
+    QWidget *text = f.memo(QStringLiteral("txtReference"), QString(), 2);
+    computed(text, [this](qint32) { return currentValue(QStringLiteral("Reference")).toString(); });
+}
+
+QPushButton *EntryWindow::measurementButton(FormBuilder &b, const QString &name, int index, const QString &caption,
+                                            const QString &kind, QWidget *text)
+{
+    if (text)
+        computed(text, [this, kind](qint32 id) { return GetMeasurementText(session(), id, m_profile.table, m_profile.key, kind); });
+    return recordButton(b, name, index, caption, [this, kind] {
+        const qint32 id = currentId();
+        if (id <= 0)
+            return;
+        writeRow();
+        auto *w = host().form<frmDE_Measurement>(QStringLiteral("frmDE_Measurement"));
+        if (!w)
+            return;
+        w->PuS_SetRecord(id, m_profile.key, m_profile.table, kind);
+        host().show(QStringLiteral("frmDE_Measurement"), true);
+        refreshComputed();
+    });
+}
+
+void EntryWindow::openForRecord(const QString &window, const QString &mode, qint32 selectedId, bool collection, bool filter)
+{
+    ZobWindow *w = host().form(window);
+    if (!w)
+        return;
+    writeRow();
+    RecordRequest r;
+    r.recordId = currentId();
+    r.table = m_profile.table;
+    r.keyField = m_profile.key;
+    r.mode = mode;
+    r.selectedId = selectedId;
+    r.collection = collection;
+    r.filter = filter;
+    r.isSelection = true;
+    w->setRecord(r);
+    host().show(window, true);
+}
+
+QString EntryWindow::recordSource(qint32 id) const
+{
+    const QString &t = m_profile.table;
+    return QStringLiteral("SELECT %1.*, qryReference.Reference FROM qryReference RIGHT JOIN %1 ON "
+                          "qryReference.ReferenceID = %1.ReferenceID WHERE %1.%2 = %3")
+        .arg(t, m_profile.key)
+        .arg(id);
+}
+
+void EntryWindow::serveRequest()
+{
+    LoadData();
+}
+
+void EntryWindow::LoadData()
+{
+    const RoutineInfo info{ErrForm::Shared, routine(QStringLiteral("LoadData")), routine(QStringLiteral("LoadData"))};
+    guarded(session(), info, [&] {
+        const qint32 id = recordRequest().recordId;
+        m_dc->setRecordSource(id < 1 ? m_profile.table : recordSource(id));
+        m_dc->Refresh();
+        showRow();
+        traceSuccess(session(), info);
+    });
+}
+
+qint32 EntryWindow::currentId() const
+{
+    const QVariant v = currentValue(m_profile.key);
+    return v.isNull() ? 0 : vb::CLng(v);
+}
+
+QVariant EntryWindow::currentValue(const QString &column) const
+{
+    const int row = m_dc ? m_dc->currentRow() : -1;
+    return row < 0 || m_dc->fieldIndex(column) < 0 ? QVariant() : m_dc->value(row, column);
+}
+
+void EntryWindow::showRow()
+{
+    m_showing = true;
+    const bool any = m_dc->currentRow() >= 0;
+    for (Field &f : m_fields) {
+        ControlValue::setValue(f.control, any ? currentValue(f.column) : QVariant());
+        f.shown = ControlValue::boundValue(f.control);
+    }
+    m_showing = false;
+    const int count = m_dc->rowCount();
+    if (m_profile.position.isEmpty())
+        SetRecordPosition(*m_dc);
+    else
+        m_dc->setCaption(m_profile.position.arg(any ? m_dc->currentRow() + 1 : 0).arg(count));
+    refreshComputed();
+    if (m_lblDataQuality) {
+        const QVariant ds = currentValue(QStringLiteral("DataSourceID"));
+        ControlValue::setText(m_lblDataQuality, QString());
+        if (!ds.isNull())
+            SetDataQuality(session(), m_lblDataQuality, vb::CLng(ds));
+    }
+    if (m_lblSpecies) {
+        const QVariant species = currentValue(QStringLiteral("SpeciesID"));
+        ControlValue::setText(m_lblSpecies, species.isNull() ? QString() : speciesHeaderText(session(), vb::CLng(species)));
+    }
+    applyLock();
+    rowShown();
+}
+
+void EntryWindow::refreshComputed()
+{
+    const qint32 id = currentId();
+    for (const auto &[control, text] : std::as_const(m_computed))
+        ControlValue::setText(control, id > 0 ? text(id) : QString());
+}
+
+bool EntryWindow::isVetted() const
+{
+    const QVariant ds = currentValue(QStringLiteral("DataSourceID"));
+    const QString text = ds.isNull() ? QString() : ds.toString();
+    return text == QLatin1String("4") || text == QLatin1String("7");
+}
+
+void EntryWindow::applyLock()
+{
+    ZobToolbar *tb = toolbar();
+    const bool vetted = isVetted();
+    tb->button(QStringLiteral("Save"))->setVisible(!vetted);
+    tb->button(QStringLiteral("Select"))->setVisible(!vetted && m_profile.hasSelect && recordRequest().mode != QLatin1String("Write"));
+    SetForm(vetted);
+    // Nobody vets or unvets a record here.
+    if (QWidget *cbo = control(QStringLiteral("cboDataSource")))
+        ControlValue::setLocked(cbo, true);
+}
+
+void EntryWindow::SetForm(bool bTo)
+{
+    const RoutineInfo info{ErrForm::Shared, routine(QStringLiteral("SetForm")), routine(QStringLiteral("SetForm"))};
+    guarded(session(), info, [&] {
+        traceParameters(session(), info, {{QStringLiteral("bTo"), bTo ? QStringLiteral("True") : QStringLiteral("False")}});
+        m_locked = bTo;
+        SetControlInfo(session(), this, QStringLiteral("lock"), bTo);
+        for (const Field &f : std::as_const(m_fields))
+            ControlValue::setLocked(f.control, bTo);
+        for (QWidget *w : std::as_const(m_readOnly))
+            ControlValue::setLocked(w, true);
+        for (QPushButton *b : std::as_const(m_recordButtons))
+            b->setEnabled(!bTo);
+        traceSuccess(session(), info);
+    });
+}
+
+void EntryWindow::writeRow()
+{
+    if (m_locked || m_showing || !m_dc || m_dc->currentRow() < 0)
+        return;
+    QList<Field *> changed;
+    for (Field &f : m_fields)
+        if (!sameValue(ControlValue::boundValue(f.control), f.shown))
+            changed.append(&f);
+    const qint32 id = currentId();
+    if (changed.isEmpty() || id <= 0)
+        return;
+    session().gSQL = QStringLiteral("Select * From %1 Where %2 = %3").arg(m_profile.table, m_profile.key).arg(id);
+    auto rs = session().gDB->OpenRecordset(session().gSQL, RecordsetType::Dynaset);
+    if (rs->EOF_())
+        return;  // the row went meanwhile: there is nothing to write into
+    rs->Edit();
+    try {
+        for (Field *f : changed)
+            rs->setField(f->column, ControlValue::boundValue(f->control));
+        rs->Update();
+    } catch (...) {
+        rs->CancelUpdate();
+        throw;
+    }
+    rs->Close();
+    for (Field *f : changed)
+        f->shown = ControlValue::boundValue(f->control);
+}
+
+void EntryWindow::save()
+{
+    const RoutineInfo info{ErrForm::Shared, routine(m_profile.saveRoutine), routine(m_profile.saveRoutine)};
+    guarded(session(), info, [&] {
+        writeRow();
+        traceSuccess(session(), info);
+    });
+}
+
+void EntryWindow::openOn(qint32 id, const QString &mode)
+{
+    writeRow();
+    RecordRequest r = recordRequest();
+    r.recordId = id;
+    r.mode = mode;
+    r.table = m_profile.table;
+    r.keyField = m_profile.key;
+    setRecord(r);
+    Form_Activate();
+}
+
+void EntryWindow::newRecord()
+{
+    if (!m_profile.newAddsRow)
+        return;
+    openOn(session().GetNewRecordID(m_profile.table, m_profile.key, QString(), 0, 0), QStringLiteral("Write"));
+}
+
+void EntryWindow::closeWindow()
+{
+    const qint32 id = currentId();
+    unloadMe();
+    if (m_profile.picker.isEmpty())
+        return;
+    if (ZobWindow *w = host().form(m_profile.picker)) {
+        RecordRequest r;
+        r.recordId = id;
+        r.selectedId = id;
+        r.table = m_profile.table;
+        r.keyField = m_profile.key;
+        r.mode = QStringLiteral("Write");
+        r.isSelection = false;
+        w->setRecord(r);
+        host().show(m_profile.picker, false);
+    }
+}
