@@ -82,9 +82,9 @@ const QMap<QString, QString> &namedColumns()
                            "Variance_dw VarianceTypeID FoodGroupID ComponentID LifestageID WaterConversionID "
                            "WaterPercent WaterPercentDS Comments KingdomID ReferenceID DataSourceID"},
         {"tblAE", "AEID ConsumerName ConsumerGenus ConsumerSpecies FoodName FoodGenus FoodSpecies TaxonID FoodGroupID "
-                  "Mean Min Max VarValue VarianceTypeID ComponentID LifestageID Comments FamilyID ReferenceID "
+                  "Mean Min Max Sample VarValue VarianceTypeID ComponentID LifestageID Comments FamilyID ReferenceID "
                   "DataSourceID"},
-        {"tblWaterConversion", "WaterConversionID Item Genus Species Mean Min Max VarValue VarianceTypeID FoodGroupID "
+        {"tblWaterConversion", "WaterConversionID Item Genus Species Mean Min Max Sample VarValue VarianceTypeID FoodGroupID "
                                "HabitatTypeID ComponentID LifestageID Comments OrderID ReferenceID DataSourceID"},
         {"tblTrophicLevel", "TrophicLevelID Item Genus Species TrophicLevel Min Max Sample VarValue VarianceTypeID "
                             "HabitatTypeID Notes ClassID ReferenceID DataSourceID"},
@@ -256,4 +256,23 @@ TEST(Schema, CreatingTwiceFailsAndLeavesTheDatabaseAsItWas)
     EXPECT_EQ(scalar(db.get(), "SELECT Description FROM tblGender WHERE GenderID = 4"), "Male");
     EXPECT_EQ(scalar(db.get(), "SELECT count(*) FROM sqlite_master WHERE type = 'table' AND name NOT LIKE 'sqlite%'"),
               QString::number(schemaTables().size()));
+}
+
+TEST(Schema, UpgradeAddsTheColumnsAnEarlierDatabaseLacksAndKeepsItsRows)
+{
+    const Db db = memoryDbWithSchema();
+    // A database of an earlier version: tblAE without Sample, tblSpecies without its default data source.
+    exec(db.get(), "ALTER TABLE tblAE DROP COLUMN Sample");
+    exec(db.get(), "ALTER TABLE tblSpecies DROP COLUMN DataSourceID");
+    exec(db.get(), "INSERT INTO tblAE (AEID, ConsumerName, Mean) VALUES (7, 'Mink', 80)");
+    exec(db.get(), "INSERT INTO tblSpecies (SpeciesID, Common) VALUES (3, 'Otter')");
+    upgradeSchema(db.get());
+    EXPECT_EQ(scalar(db.get(), "SELECT ConsumerName || ' ' || Mean FROM tblAE WHERE AEID = 7"), "Mink 80.0");
+    EXPECT_EQ(scalar(db.get(), "SELECT Sample FROM tblAE WHERE AEID = 7"), "<null>");
+    EXPECT_EQ(scalar(db.get(), "SELECT DataSourceID FROM tblSpecies WHERE SpeciesID = 3"), "6");
+    // The added column checks its values like one made with the table, and a second run changes nothing.
+    EXPECT_NE(sqlite3_exec(db.get(), "UPDATE tblAE SET Sample = 'ten' WHERE AEID = 7", nullptr, nullptr, nullptr), SQLITE_OK);
+    upgradeSchema(db.get());
+    exec(db.get(), "UPDATE tblAE SET Sample = 10 WHERE AEID = 7");
+    EXPECT_EQ(scalar(db.get(), "SELECT Sample FROM tblAE WHERE AEID = 7"), "10.0");
 }
