@@ -34,17 +34,19 @@ EntryWindow::EntryWindow(Session &session, QtWindowHost &host, const QString &na
 {
     setCaption(m_profile.caption);
     HelpContextID = 2575;
-    buildToolbar(m_body, {ToolButton::separator(),
-                          {"New", "Add a record", "New", [this] { newRecord(); }},
-                          ToolButton::separator(),
-                          {"Save", "Save the record", "Save", [this] { save(); }},
-                          ToolButton::separator(),
-                          {"Select", "Return to the window that asked", "Select", [this] { unloadMe(); }},
-                          ToolButton::separator(),
-                          {"Close", "Close and go back to the list", "Close", [this] { closeWindow(); }},
-                          ToolButton::separator(),
-                          {"Help", "Help", "Help", [this] { showHelp(); }}},
-                 QStringLiteral(" ") + name + QStringLiteral(".TB_MDI_ButtonClick"));
+    QList<ToolButton> places = {ToolButton::separator(),
+                                {"New", "Add a record", "New", [this] { newRecord(); }},
+                                ToolButton::separator(),
+                                {"Save", "Save the record", "Save", [this] { save(); }},
+                                ToolButton::separator(),
+                                {"Select", "Return to the window that asked", "Select", [this] { unloadMe(); }},
+                                ToolButton::separator(),
+                                {"Close", "Close and go back to the list", "Close", [this] { closeWindow(); }},
+                                ToolButton::separator(),
+                                {"Help", "Help", "Help", [this] { showHelp(); }}};
+    if (m_profile.noSelectButton)
+        places.erase(places.begin() + 4, places.begin() + 6);
+    buildToolbar(m_body, places, QStringLiteral(" ") + name + QStringLiteral(".TB_MDI_ButtonClick"));
     if (m_profile.speciesPanel)
         m_lblSpecies = m_body.frame(QStringLiteral("fraMain"), QStringLiteral("Species"))
                            .label(QStringLiteral("lblSpecies"), QString());
@@ -89,10 +91,10 @@ QWidget *EntryWindow::textField(FormBuilder &b, const QString &name, const QStri
 }
 
 QComboBox *EntryWindow::listField(FormBuilder &b, const QString &name, const QString &caption, const QString &column,
-                                  const QString &sql, const QString &listField)
+                                  const QString &sql, const QString &listField, const QString &listKey)
 {
     QComboBox *combo = field(b.combo(name, caption), column);
-    lookup(combo, sql, listField, column);
+    lookup(combo, sql, listField, listKey.isEmpty() ? column : listKey);
     return combo;
 }
 
@@ -268,13 +270,21 @@ bool EntryWindow::isVetted() const
     return text == QLatin1String("4") || text == QLatin1String("7");
 }
 
+bool EntryWindow::isLocked() const
+{
+    return isVetted() || (m_profile.writeModeOnly && recordRequest().mode != QLatin1String("Write"));
+}
+
 void EntryWindow::applyLock()
 {
     ZobToolbar *tb = toolbar();
-    const bool vetted = isVetted();
-    tb->button(QStringLiteral("Save"))->setVisible(!vetted);
-    tb->button(QStringLiteral("Select"))->setVisible(!vetted && m_profile.hasSelect && recordRequest().mode != QLatin1String("Write"));
-    SetForm(vetted);
+    const bool locked = isLocked();
+    tb->button(QStringLiteral("Save"))->setVisible(!locked);
+    if (m_profile.writeModeOnly)
+        tb->button(QStringLiteral("New"))->setVisible(!locked);
+    if (QAction *select = tb->button(QStringLiteral("Select")))
+        select->setVisible(!locked && m_profile.hasSelect && recordRequest().mode != QLatin1String("Write"));
+    SetForm(locked);
     // Nobody vets or unvets a record here.
     if (QWidget *cbo = control(QStringLiteral("cboDataSource")))
         ControlValue::setLocked(cbo, true);

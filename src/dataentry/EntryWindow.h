@@ -37,6 +37,10 @@ struct EntryProfile {
     bool hasSelect = true;
     //! A panel above the fields names the species of the row (its SpeciesID).
     bool speciesPanel = false;
+    //! The toolbar has no Select (New 2, Save 4, Close 6, Help 8).
+    bool noSelectButton = false;
+    //! Outside mode "Write" the record is locked as a vetted one is, and New is hidden with Save.
+    bool writeModeOnly = false;
 };
 
 //! The shared entry window of a reference table: one record (or, for record id below 1, the whole
@@ -58,6 +62,8 @@ public:
     void SetForm(bool bTo);
     //! The record shown has a vetted data source.
     bool isVetted() const;
+    //! The record shown is locked: vetted, or outside mode "Write" where the member asks for it.
+    bool isLocked() const;
     //! The key of the row shown; 0 when there is none.
     qint32 currentId() const;
     //! A column of the row shown, as the data control read it.
@@ -66,8 +72,8 @@ public:
     //! gone meanwhile is left alone. Empty text and an empty combo write null. Nothing is written
     //! for a vetted record. Errors go to the caller, and the row then stays as it was.
     void writeRow();
-    //! The Save command: writes the row under the save routine's name and shows it again.
-    void save();
+    //! The Save command: writes the row under the save routine's name.
+    virtual void save();
     //! Puts the window on another record of its table in mode mode.
     void openOn(qint32 id, const QString &mode);
 
@@ -98,9 +104,10 @@ protected:
     //! A text box (or, with lines > 0, a memo of that height) bound to a column.
     QWidget *textField(FormBuilder &b, const QString &name, const QString &caption, const QString &column, int lines = 0);
     //! A combo bound to a column, listing the rows of a statement (shown field listField, data the
-    //! column of the same name).
+    //! column listKey, by default of the same name as the column).
     QComboBox *listField(FormBuilder &b, const QString &name, const QString &caption, const QString &column,
-                         const QString &sql, const QString &listField = QStringLiteral("Description"));
+                         const QString &sql, const QString &listField = QStringLiteral("Description"),
+                         const QString &listKey = {});
     //! Fills a combo from a statement when the window loads.
     void lookup(QComboBox *combo, const QString &sql, const QString &listField, const QString &boundColumn);
     //! A read-only text filled from the record id whenever the row changes.
