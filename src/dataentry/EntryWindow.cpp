@@ -19,18 +19,10 @@
 #include <QLabel>
 #include <QPushButton>
 
-namespace {
-//! Two values of a field are the same when both are null or both read alike.
-bool sameValue(const QVariant &a, const QVariant &b)
-{
-    if (a.isNull() || b.isNull())
-        return a.isNull() == b.isNull();
-    return a.toString() == b.toString();
-}
-}  // namespace
-
 EntryWindow::EntryWindow(Session &session, QtWindowHost &host, const QString &name, EntryProfile profile)
-    : RequestWindow(session, host, name), m_profile(std::move(profile)), m_body(this)
+    : RequestWindow(session, host, name), m_profile(std::move(profile)), m_body(this),
+      m_dc(new DataControl(m_profile.dataControl, this)),
+      m_record(new RecordBinding(session, m_dc, m_profile.table, m_profile.key, this))
 {
     setCaption(m_profile.caption);
     HelpContextID = 2575;
@@ -55,7 +47,7 @@ EntryWindow::EntryWindow(Session &session, QtWindowHost &host, const QString &na
 void EntryWindow::Form_Load()
 {
     // The navigator comes last, below the member's fields.
-    m_dc = m_body.dataControl(m_profile.dataControl);
+    m_body.add(m_dc, m_profile.dataControl);
     m_dc->setDatabase(session().gDB);
     connect(m_dc, &DataControl::Reposition, this, [this] {
         runCommand(m_profile.dataControl + QStringLiteral("_Reposition"), [this] { showRow(); });
@@ -63,8 +55,7 @@ void EntryWindow::Form_Load()
     connect(m_dc, &DataControl::leavingRow, this, [this] {
         runCommand(m_profile.dataControl + QStringLiteral("_Validate"), [this] { writeRow(); });
     });
-    for (const Lookup &l : std::as_const(m_lookups))
-        fillCombo(l.combo, *session().gDB, l.sql, l.listField, l.boundColumn);
+    m_record->fillLookups();
 }
 
 void EntryWindow::Form_Unload(bool &cancel)
@@ -74,13 +65,6 @@ void EntryWindow::Form_Unload(bool &cancel)
     if (m_dc && m_dc->currentRow() >= 0)
         runCommand(m_profile.dataControl + QStringLiteral("_Validate"), [this] { writeRow(); });
     disconnect(m_dc, nullptr, this, nullptr);
-}
-
-void EntryWindow::addField(QWidget *control, const QString &column)
-{
-    m_fields.append({control, column, {}});
-    if (ControlValue::kind(control) == QLatin1String("text"))
-        FormBuilder::userTyped(control);
 }
 
 QWidget *EntryWindow::textField(FormBuilder &b, const QString &name, const QString &caption, const QString &column, int lines)
@@ -100,14 +84,12 @@ QComboBox *EntryWindow::listField(FormBuilder &b, const QString &name, const QSt
 
 void EntryWindow::lookup(QComboBox *combo, const QString &sql, const QString &listField, const QString &boundColumn)
 {
-    m_lookups.append({combo, sql, listField, boundColumn});
+    m_record->lookup(combo, sql, listField, boundColumn);
 }
 
 void EntryWindow::computed(QWidget *control, std::function<QString(qint32)> text)
 {
-    ControlValue::setLocked(control, true);
-    m_readOnly.append(control);
-    m_computed.append({control, std::move(text)});
+    m_record->computed(control, std::move(text));
 }
 
 QPushButton *EntryWindow::recordButton(FormBuilder &b, const QString &name, int index, const QString &caption,
@@ -116,7 +98,7 @@ QPushButton *EntryWindow::recordButton(FormBuilder &b, const QString &name, int 
     QPushButton *button = index < 0 ? b.button(name, caption) : b.button(name, index, caption);
     const QString routineName = (index < 0 ? name : arrayName(name, index)) + QStringLiteral("_Click");
     connect(button, &QPushButton::clicked, this, [this, routineName, handler] { runCommand(routineName, handler); });
-    m_recordButtons.append(button);
+    m_record->addButton(button);
     return button;
 }
 
@@ -217,31 +199,23 @@ void EntryWindow::LoadData()
 
 qint32 EntryWindow::currentId() const
 {
-    const QVariant v = currentValue(m_profile.key);
-    return v.isNull() ? 0 : vb::CLng(v);
+    return m_record->currentId();
 }
 
 QVariant EntryWindow::currentValue(const QString &column) const
 {
-    const int row = m_dc ? m_dc->currentRow() : -1;
-    return row < 0 || m_dc->fieldIndex(column) < 0 ? QVariant() : m_dc->value(row, column);
+    return m_record->currentValue(column);
 }
 
 void EntryWindow::showRow()
 {
-    m_showing = true;
+    m_record->showRow();
     const bool any = m_dc->currentRow() >= 0;
-    for (Field &f : m_fields) {
-        ControlValue::setValue(f.control, any ? currentValue(f.column) : QVariant());
-        f.shown = ControlValue::boundValue(f.control);
-    }
-    m_showing = false;
     const int count = m_dc->rowCount();
     if (m_profile.position.isEmpty())
         SetRecordPosition(*m_dc);
     else
         m_dc->setCaption(m_profile.position.arg(any ? m_dc->currentRow() + 1 : 0).arg(count));
-    refreshComputed();
     if (m_lblDataQuality) {
         const QVariant ds = currentValue(QStringLiteral("DataSourceID"));
         ControlValue::setText(m_lblDataQuality, QString());
@@ -258,9 +232,7 @@ void EntryWindow::showRow()
 
 void EntryWindow::refreshComputed()
 {
-    const qint32 id = currentId();
-    for (const auto &[control, text] : std::as_const(m_computed))
-        ControlValue::setText(control, id > 0 ? text(id) : QString());
+    m_record->refreshComputed();
 }
 
 bool EntryWindow::isVetted() const
@@ -295,45 +267,15 @@ void EntryWindow::SetForm(bool bTo)
     const RoutineInfo info{ErrForm::Shared, routine(QStringLiteral("SetForm")), routine(QStringLiteral("SetForm"))};
     guarded(session(), info, [&] {
         traceParameters(session(), info, {{QStringLiteral("bTo"), bTo ? QStringLiteral("True") : QStringLiteral("False")}});
-        m_locked = bTo;
         SetControlInfo(session(), this, QStringLiteral("lock"), bTo);
-        for (const Field &f : std::as_const(m_fields))
-            ControlValue::setLocked(f.control, bTo);
-        for (QWidget *w : std::as_const(m_readOnly))
-            ControlValue::setLocked(w, true);
-        for (QPushButton *b : std::as_const(m_recordButtons))
-            b->setEnabled(!bTo);
+        m_record->setLocked(bTo);
         traceSuccess(session(), info);
     });
 }
 
 void EntryWindow::writeRow()
 {
-    if (m_locked || m_showing || !m_dc || m_dc->currentRow() < 0)
-        return;
-    QList<Field *> changed;
-    for (Field &f : m_fields)
-        if (!sameValue(ControlValue::boundValue(f.control), f.shown))
-            changed.append(&f);
-    const qint32 id = currentId();
-    if (changed.isEmpty() || id <= 0)
-        return;
-    session().gSQL = QStringLiteral("Select * From %1 Where %2 = %3").arg(m_profile.table, m_profile.key).arg(id);
-    auto rs = session().gDB->OpenRecordset(session().gSQL, RecordsetType::Dynaset);
-    if (rs->EOF_())
-        return;  // the row went meanwhile: there is nothing to write into
-    rs->Edit();
-    try {
-        for (Field *f : changed)
-            rs->setField(f->column, ControlValue::boundValue(f->control));
-        rs->Update();
-    } catch (...) {
-        rs->CancelUpdate();
-        throw;
-    }
-    rs->Close();
-    for (Field *f : changed)
-        f->shown = ControlValue::boundValue(f->control);
+    m_record->writeRow();
 }
 
 void EntryWindow::save()

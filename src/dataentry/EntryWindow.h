@@ -2,6 +2,7 @@
 #pragma once
 
 #include "FormBuilder.h"
+#include "RecordBinding.h"
 #include "RequestWindow.h"
 
 #include <QComboBox>
@@ -98,7 +99,7 @@ protected:
     template <typename W>
     W *field(W *control, const QString &column)
     {
-        addField(control, column);
+        m_record->addField(control, column);
         return control;
     }
     //! A text box (or, with lines > 0, a memo of that height) bound to a column.
@@ -131,32 +132,17 @@ protected:
     //! filtered picker to assign.
     void openForRecord(const QString &window, const QString &mode, qint32 selectedId, bool collection, bool filter = false);
     DataControl *dataControl() const { return m_dc; }
+    RecordBinding *record() const { return m_record; }
     QString routine(const QString &name) const { return objectName() + QLatin1Char('.') + name; }
 
 private:
-    struct Field {
-        QWidget *control;
-        QString column;
-        QVariant shown;
-    };
-    struct Lookup {
-        QComboBox *combo;
-        QString sql, listField, boundColumn;
-    };
-    void addField(QWidget *control, const QString &column);
     void showRow();
     void applyLock();
 
     EntryProfile m_profile;
     FormBuilder m_body;
-    DataControl *m_dc = nullptr;
-    QList<Field> m_fields;
-    QList<Lookup> m_lookups;
-    QList<std::pair<QWidget *, std::function<QString(qint32)>>> m_computed;
-    QList<QWidget *> m_readOnly;
-    QList<QPushButton *> m_recordButtons;
+    DataControl *m_dc;
+    RecordBinding *m_record;
     QLabel *m_lblDataQuality = nullptr;
     QLabel *m_lblSpecies = nullptr;
-    bool m_locked = false;
-    bool m_showing = false;
 };
