@@ -73,8 +73,15 @@ void frmDE_Species::connectCommands()
         });
         connect(r->dataControl(), &DataControl::leavingRow, this, [this, r] { command(QStringLiteral("dc_Validate"), [r] { r->writeRow(); }); });
     }
-    connect(m_pages->tabs, &QTabWidget::currentChanged, this, [this](int page) { command(QStringLiteral("ssTabSB_Click"), [=, this] { SetPageLock(page); }); });
-    connect(m_pages->dietTabs, &QTabWidget::currentChanged, this, [this] { command(QStringLiteral("ssTabDiet_Click"), [this] { SetPageLock(2); }); });
+    // Leaving a page writes what was typed on it, as leaving its row does.
+    connect(m_pages->tabs, &QTabWidget::currentChanged, this, [this](int page) {
+        writeRecords();
+        command(QStringLiteral("ssTabSB_Click"), [=, this] { SetPageLock(page); });
+    });
+    connect(m_pages->dietTabs, &QTabWidget::currentChanged, this, [this] {
+        writeRecords();
+        command(QStringLiteral("ssTabDiet_Click"), [this] { SetPageLock(2); });
+    });
     for (int i = 0; i < m_pages->cmdRef.size(); ++i)
         connect(m_pages->cmdRef[i], &QPushButton::clicked, this, [this, i] { command(QStringLiteral("cmdRef_Click"), [=, this] { referenceCommand(i); }); });
     for (int i = 0; i < 3; ++i)
