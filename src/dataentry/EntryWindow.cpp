@@ -113,9 +113,10 @@ void EntryWindow::dataSourceField(FormBuilder &b)
 
 void EntryWindow::classificationField(FormBuilder &b, const QString &mode)
 {
-    QWidget *text = b.textBox(QStringLiteral("txtClassification"), QStringLiteral("Classification:"));
+    FormBuilder row = b.fieldRow(QStringLiteral("fraClassification"), QStringLiteral("Classification:"));
+    QWidget *text = row.textBox(QStringLiteral("txtClassification"));
     computed(text, [this](qint32 id) { return GetClassificationText(session(), id, m_profile.table, m_profile.key); });
-    recordButton(b, QStringLiteral("cmdClassification"), -1, QStringLiteral("&Classification"), [this, mode] {
+    recordButton(row, QStringLiteral("cmdClassification"), -1, QStringLiteral("&Classification"), [this, mode] {
         openForRecord(QStringLiteral("frmSelect_Classification"), mode, 0, true);
         refreshComputed();
     });

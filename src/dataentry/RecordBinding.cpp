@@ -10,6 +10,7 @@
 
 #include <QComboBox>
 #include <QPushButton>
+#include <QWidget>
 
 namespace {
 //! Two values of a field are the same when both are null or both read alike.
@@ -41,6 +42,8 @@ void RecordBinding::lookup(QComboBox *combo, const QString &sql, const QString &
 void RecordBinding::computed(QWidget *control, std::function<QString(qint32)> text)
 {
     ControlValue::setLocked(control, true);
+    // The texts describe a whole record: room for a line of them.
+    control->setMinimumWidth(control->fontMetrics().averageCharWidth() * 48);
     m_computed.append({control, std::move(text)});
 }
 

@@ -133,6 +133,7 @@ void SpeciesPages::weightPage(FormBuilder &page)
     weight->addButton(cmdRef.last());
     weight->computed(r.memo(QStringLiteral("txtReference"), QString(), 2),
                      [this](qint32) { return weight->currentValue(QStringLiteral("Reference")).toString(); });
+    page.stretch();
 }
 
 void SpeciesPages::dietPage(FormBuilder &page)
@@ -164,6 +165,7 @@ void SpeciesPages::dietPage(FormBuilder &page)
     diet->addButton(cmdRef.last());
     diet->computed(r.memo(QStringLiteral("txtDietReference"), QString(), 2),
                    [this](qint32) { return diet->currentValue(QStringLiteral("Reference")).toString(); });
+    head.stretch();
 
     FormBuilder items = page.page(dietTabs, QStringLiteral("Diet Items"));
     dcDietItem = items.hiddenData(QStringLiteral("dcDietItem"));

@@ -68,6 +68,7 @@ frmDE_DietItem::frmDE_DietItem(Session &session, QtWindowHost &host)
                 [this, i] { runCommand(QStringLiteral("cmdSelectDD_Click"), [this, i] { selectValue(i); }); });
         m_txtDI[texts[i]] = row.textBox(QStringLiteral("txtDI"), texts[i]);
         ControlValue::setLocked(m_txtDI[texts[i]], true);
+        m_txtDI[texts[i]]->setMinimumWidth(m_txtDI[texts[i]]->fontMetrics().averageCharWidth() * 60);
     }
     FormBuilder values = b.frame(QStringLiteral("fraDI"), QStringLiteral("Assign Values"));
     values.label(QStringLiteral("lblDI"), QStringLiteral("Proportion (0 to 1.0) of this diet item:"));
