@@ -5,8 +5,10 @@
 
 #include <QFile>
 #include <QTemporaryDir>
+#include <algorithm>
 #include <chrono>
 #include <cstdio>
+#include <vector>
 
 //! A session on a private copy of the seeded database, as every benchmark starts from.
 class BenchSession {
@@ -40,4 +42,20 @@ double perCallMicros(int n, F &&f)
         f(i);
     const auto end = std::chrono::steady_clock::now();
     return std::chrono::duration<double, std::micro>(end - start).count() / n;
+}
+
+//! The median of some times.
+inline double benchMedian(std::vector<double> v)
+{
+    std::sort(v.begin(), v.end());
+    return (v[v.size() / 2] + v[(v.size() - 1) / 2]) / 2;
+}
+
+//! The time of one call of f in milliseconds.
+template <typename F>
+double benchMillis(F &&f)
+{
+    const auto start = std::chrono::steady_clock::now();
+    f();
+    return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count();
 }

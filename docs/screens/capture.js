@@ -35,8 +35,11 @@ const chooser = ui.window('frmSearch_File');
 chooser.control('txtSelectedFile').setText('farmpond');
 shot(chooser, 'frmSearch_File-save');
 chooser.control('cmdControl(0)').click();
-p.control('cmdScenario(3)').click();
-p.control('cmdScenario(3)').click();
+// Each new scenario opens the builder (pictured by capture_builder.js); closing it returns here.
+for (let i = 0; i < 2; ++i) {
+    p.control('cmdScenario(3)').click();
+    ui.window('frmZOB').toolbar().click('Close');
+}
 db.exec("Update tblScenario Set Scenario_Identifier_1 = 'Mallard, adult female'");
 db.exec("Update tblWildlife Set ScenarioComments = 'Adult female mallard feeding on aquatic plants and invertebrates.'");
 p.close();

@@ -42,9 +42,8 @@ QString clsScenario::userDisplayName() const
 {
     const QVariant name = m_session.Lookup(QStringLiteral("tblUser"), QStringLiteral("Name"),
                                            QStringLiteral("User = '") + m_session.gUserName + QStringLiteral("'"));
-    // Lookup never gives null, so a user without a Name is recorded as "not found".
-    if (name.isNull())
-        return m_session.gUserName;
+    // A Lookup that fails (a login name with an apostrophe breaks its criteria) gives the empty value,
+    // and that is what the scenario records; a user without a Name is recorded as "not found".
     return name.toString();
 }
 

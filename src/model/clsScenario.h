@@ -96,7 +96,8 @@ public:
 
     //! The marker line: "Scenario ID: <SID>, File Name: <FileName>, Date Last Modified: <date>,".
     QString markerLine() const;
-    //! The user's display name as the scenario rows record it (the Lookup of Name, "not found" kept).
+    //! The user's display name as the scenario rows record it: the Lookup of Name, "not found" kept,
+    //! and empty where the Lookup fails.
     QString userDisplayName() const;
     //! The user's comment block: each comment + ": " CRLF CRLF.
     QString userCommentBlock() const;

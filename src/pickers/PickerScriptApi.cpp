@@ -30,6 +30,7 @@ void PickerScriptApi::open(const QString &window, const QVariantMap &request)
     r.filter = request.value(QStringLiteral("filter"), true).toBool();
     r.isSelection = r.filter;
     r.collection = request.value(QStringLiteral("collection")).toBool();
+    r.entry = request.value(QStringLiteral("entry")).toString();
     w->setRecord(r);
     host->show(window, r.filter);
 }

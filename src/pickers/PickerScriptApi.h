@@ -13,8 +13,8 @@ class PickerScriptApi : public QObject {
     Q_OBJECT
 public:
     PickerScriptApi(Session &session, QObject *parent);
-    //! request: {recordId, table, keyField, mode, selectedId, filter, collection}; filter defaults to
-    //! true and mode to "ReadOnly".
+    //! request: {recordId, table, keyField, mode, selectedId, filter, collection, entry}; filter
+    //! defaults to true and mode to "ReadOnly". A filtering (assigning) window is shown modally.
     Q_INVOKABLE void open(const QString &window, const QVariantMap &request);
 
 private:

@@ -8,19 +8,6 @@
 #include "ZobWindow.h"
 #include "clsDietItem.h"
 
-QString missingWindowText(const QString &name)
-{
-    return QStringLiteral("The window %1 is not available in this version.").arg(name);
-}
-
-bool windowAvailable(Session &session, const QString &name)
-{
-    if (QtWindowHost::isRegistered(name))
-        return true;
-    session.msgBox(missingWindowText(name), QString(), MsgIcon::Information);
-    return false;
-}
-
 void refreshDietItems(QtWindowHost &host)
 {
     if (auto *items = host.link<ListView>(QStringLiteral("frmDE_DietItem")))

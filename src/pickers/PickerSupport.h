@@ -1,18 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "WindowAvailable.h"
+
 #include <QString>
 
 class QtWindowHost;
 class Session;
-
-//! True when the program has the window name. Otherwise tells the user in a box that the window is
-//! not available in this version and gives false, so that a command that would open it does nothing
-//! silently and writes nothing.
-bool windowAvailable(Session &session, const QString &name);
-
-//! The text of that box.
-QString missingWindowText(const QString &name);
 
 //! Tells the diet item window that a picker wrote into a row: its changed flag is set, the diet of the
 //! open scenario becomes the user's, and the window (made if need be, when the program has it) reads

@@ -35,6 +35,21 @@ struct Fixture {
     int count(const QString &sql) { auto rs = s.gDB->OpenRecordset(sql); if (rs->EOF_()) return 0; rs->MoveLast(); return rs->RecordCount(); }
 };
 
+TEST(Scenario, FailedNameLookupRecordsTheEmptyValueNotTheLoginName)
+{
+    Fixture f;
+    // An apostrophe in the login name breaks the Lookup's criteria: its error box, then the empty value.
+    f.s.gUserName = QStringLiteral("o'brien");
+    f.sc().AddNew(QStringLiteral("Wildlife"));
+    f.sc().FileName = QStringLiteral("mink.ZOB");
+    f.sc().Save(QStringLiteral("All"));
+    auto head = f.s.gDB->OpenRecordset(QStringLiteral("Select * from tblScenario where ScenarioID = %1").arg(f.sc().SID));
+    for (const char *column : {"Scenario_CreatedBy", "Scenario_ModifiedBy"})
+        EXPECT_EQ(head->field(QString::fromLatin1(column)).toString(), QString()) << column;
+    ASSERT_FALSE(f.t.messages.shown.isEmpty());
+    EXPECT_TRUE(f.t.messages.shown.first().text.startsWith(QStringLiteral("Error in routine Lookup")));
+}
+
 TEST(Scenario, AddNewMakesHeaderWildlifeAndFiveIntakeRows)
 {
     Fixture f;

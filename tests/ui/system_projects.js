@@ -233,8 +233,11 @@ test('new wildlife scenarios join the project; the selected one shows its descri
     const p = ui.window('frmProject');
     const pid = session.project.PID;
     const links = () => db.query('Select * from jtblProjectScenario where ProjectID = ' + pid);
-    p.control('cmdScenario(3)').click();
-    p.control('cmdScenario(3)').click();
+    // Each new scenario opens the builder; closing it unsaved returns to the project, which lists it.
+    for (let i = 0; i < 2; ++i) {
+        p.control('cmdScenario(3)').click();
+        ui.window('frmZOB').toolbar().click('Close');
+    }
     expect(links().length).toBe(2);
     for (const link of links())
         expect(db.query('Select * from tblIntakeZOB where ScenarioID = ' + link.ScenarioID).length).toBe(5);

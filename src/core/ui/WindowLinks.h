@@ -43,6 +43,14 @@ public:
     virtual void PuS_SetTab(int index) = 0;
 };
 
+//! The text zoom: a long text of another window's box shown large for reading or editing.
+class TextZoom {
+public:
+    virtual ~TextZoom() = default;
+    //! Shows the text of target under a caption, modally; true when the text was written back.
+    virtual bool ZoomText(QWidget *target, const QString &caption, bool readOnly) = 0;
+};
+
 //! A window that lists rows of the database and reads them again on request.
 class ListView {
 public:
