@@ -9,14 +9,9 @@ const WindowRegistration<frmDE_AE> reg(QStringLiteral("frmDE_AE"));
 
 EntryProfile entryProfile()
 {
-    EntryProfile p;
-    p.caption = QStringLiteral("Assimilation Efficiency Data Entry");
-    p.table = QStringLiteral("tblAE");
-    p.key = QStringLiteral("AEID");
-    p.dataControl = QStringLiteral("dcAE");
-    p.saveRoutine = QStringLiteral("SaveAE");
-    p.picker = QStringLiteral("frmSelect_AE");
-    return p;
+    return {.caption = QStringLiteral("Assimilation Efficiency Data Entry"), .table = QStringLiteral("tblAE"),
+            .key = QStringLiteral("AEID"), .dataControl = QStringLiteral("dcAE"),
+            .saveRoutine = QStringLiteral("SaveAE"), .picker = QStringLiteral("frmSelect_AE")};
 }
 }  // namespace
 

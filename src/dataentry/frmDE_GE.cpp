@@ -10,17 +10,10 @@ const WindowRegistration<frmDE_GE> reg(QStringLiteral("frmDE_GE"));
 
 EntryProfile entryProfile()
 {
-    EntryProfile p;
-    p.caption = QStringLiteral("Gross Energy Data Entry");
-    p.table = QStringLiteral("tblGrossEnergy");
-    p.key = QStringLiteral("GrossEnergyID");
-    p.dataControl = QStringLiteral("dcGE");
-    p.saveRoutine = QStringLiteral("SaveGrossEnergy");
-    p.picker = QStringLiteral("frmSelect_GE");
-    p.position = QStringLiteral("Gross Energy: %1 of %2");
-    p.newAddsRow = true;
-    p.hasSelect = false;
-    return p;
+    return {.caption = QStringLiteral("Gross Energy Data Entry"), .table = QStringLiteral("tblGrossEnergy"),
+            .key = QStringLiteral("GrossEnergyID"), .dataControl = QStringLiteral("dcGE"),
+            .saveRoutine = QStringLiteral("SaveGrossEnergy"), .picker = QStringLiteral("frmSelect_GE"),
+            .position = QStringLiteral("Gross Energy: %1 of %2"), .newAddsRow = true, .hasSelect = false};
 }
 }  // namespace
 

@@ -11,16 +11,10 @@ const WindowRegistration<frmDE_IntakeMeasured> reg(QStringLiteral("frmDE_IntakeM
 
 EntryProfile entryProfile()
 {
-    EntryProfile p;
-    p.caption = QStringLiteral("Measured Intake Data Entry");
-    p.table = QStringLiteral("tblIntakeMeasured");
-    p.key = QStringLiteral("IntakeMeasuredID");
-    p.dataControl = QStringLiteral("dcIntake");
-    p.saveRoutine = QStringLiteral("SaveIntake");
-    p.position = QStringLiteral("Intake: %1 of %2");
-    p.hasSelect = false;
-    p.speciesPanel = true;
-    return p;
+    return {.caption = QStringLiteral("Measured Intake Data Entry"), .table = QStringLiteral("tblIntakeMeasured"),
+            .key = QStringLiteral("IntakeMeasuredID"), .dataControl = QStringLiteral("dcIntake"),
+            .saveRoutine = QStringLiteral("SaveIntake"), .position = QStringLiteral("Intake: %1 of %2"),
+            .hasSelect = false, .speciesPanel = true};
 }
 }  // namespace
 

@@ -21,17 +21,10 @@ const QString kAllUnits = QStringLiteral("Select * From tblUnits Order By Descri
 
 EntryProfile entryProfile()
 {
-    EntryProfile p;
-    p.caption = QStringLiteral("Intake Model Allometric Equation");
-    p.table = QStringLiteral("tblIntakeModel");
-    p.key = QStringLiteral("IntakeModelID");
-    p.dataControl = QStringLiteral("dcAllometricEquation");
-    p.saveRoutine = QStringLiteral("SaveIntakeModel");
-    p.picker = QStringLiteral("frmSelect_IntakeModel");
-    p.newAddsRow = true;
-    p.noSelectButton = true;
-    p.writeModeOnly = true;
-    return p;
+    return {.caption = QStringLiteral("Intake Model Allometric Equation"), .table = QStringLiteral("tblIntakeModel"),
+            .key = QStringLiteral("IntakeModelID"), .dataControl = QStringLiteral("dcAllometricEquation"),
+            .saveRoutine = QStringLiteral("SaveIntakeModel"), .picker = QStringLiteral("frmSelect_IntakeModel"),
+            .newAddsRow = true, .noSelectButton = true, .writeModeOnly = true};
 }
 
 qint32 idOf(const QWidget *combo)

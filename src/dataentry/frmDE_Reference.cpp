@@ -9,13 +9,9 @@ const WindowRegistration<frmDE_Reference> reg(QStringLiteral("frmDE_Reference"))
 
 EntryProfile entryProfile()
 {
-    EntryProfile p;
-    p.caption = QStringLiteral("Reference");
-    p.table = QStringLiteral("tblReferences");
-    p.key = QStringLiteral("ReferenceID");
-    p.dataControl = QStringLiteral("dcReference");
-    p.saveRoutine = QStringLiteral("UpdateRecord");
-    return p;
+    return {.caption = QStringLiteral("Reference"), .table = QStringLiteral("tblReferences"),
+            .key = QStringLiteral("ReferenceID"), .dataControl = QStringLiteral("dcReference"),
+            .saveRoutine = QStringLiteral("UpdateRecord")};
 }
 }  // namespace
 

@@ -9,16 +9,10 @@ const WindowRegistration<frmDE_SoilIngestion> reg(QStringLiteral("frmDE_SoilInge
 
 EntryProfile entryProfile()
 {
-    EntryProfile p;
-    p.caption = QStringLiteral("Soil Ingestion Data Entry");
-    p.table = QStringLiteral("tblSoilIngestion");
-    p.key = QStringLiteral("SoilIngestionID");
-    p.dataControl = QStringLiteral("dcSoilIngestion");
-    p.saveRoutine = QStringLiteral("SaveSoilIngestion");
-    p.picker = QStringLiteral("frmSelect_SoilIngestion");
-    p.newAddsRow = true;
-    p.hasSelect = false;
-    return p;
+    return {.caption = QStringLiteral("Soil Ingestion Data Entry"), .table = QStringLiteral("tblSoilIngestion"),
+            .key = QStringLiteral("SoilIngestionID"), .dataControl = QStringLiteral("dcSoilIngestion"),
+            .saveRoutine = QStringLiteral("SaveSoilIngestion"), .picker = QStringLiteral("frmSelect_SoilIngestion"),
+            .newAddsRow = true, .hasSelect = false};
 }
 }  // namespace
 

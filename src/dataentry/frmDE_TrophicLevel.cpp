@@ -9,16 +9,10 @@ const WindowRegistration<frmDE_TrophicLevel> reg(QStringLiteral("frmDE_TrophicLe
 
 EntryProfile entryProfile()
 {
-    EntryProfile p;
-    p.caption = QStringLiteral("Trophic Level Data Entry");
-    p.table = QStringLiteral("tblTrophicLevel");
-    p.key = QStringLiteral("TrophicLevelID");
-    p.dataControl = QStringLiteral("dcTrophicLevel");
-    p.saveRoutine = QStringLiteral("SaveTrophicLevel");
-    p.picker = QStringLiteral("frmSelect_TrophicLevel");
-    p.newAddsRow = true;
-    p.hasSelect = false;
-    return p;
+    return {.caption = QStringLiteral("Trophic Level Data Entry"), .table = QStringLiteral("tblTrophicLevel"),
+            .key = QStringLiteral("TrophicLevelID"), .dataControl = QStringLiteral("dcTrophicLevel"),
+            .saveRoutine = QStringLiteral("SaveTrophicLevel"), .picker = QStringLiteral("frmSelect_TrophicLevel"),
+            .newAddsRow = true, .hasSelect = false};
 }
 }  // namespace
 

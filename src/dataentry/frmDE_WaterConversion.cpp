@@ -9,16 +9,10 @@ const WindowRegistration<frmDE_WaterConversion> reg(QStringLiteral("frmDE_WaterC
 
 EntryProfile entryProfile()
 {
-    EntryProfile p;
-    p.caption = QStringLiteral("Moisture Content Data Entry");
-    p.table = QStringLiteral("tblWaterConversion");
-    p.key = QStringLiteral("WaterConversionID");
-    p.dataControl = QStringLiteral("dcWaterConversion");
-    p.saveRoutine = QStringLiteral("SaveWaterConversion");
-    p.picker = QStringLiteral("frmSelect_WaterConversion");
-    p.newAddsRow = true;
-    p.hasSelect = false;
-    return p;
+    return {.caption = QStringLiteral("Moisture Content Data Entry"), .table = QStringLiteral("tblWaterConversion"),
+            .key = QStringLiteral("WaterConversionID"), .dataControl = QStringLiteral("dcWaterConversion"),
+            .saveRoutine = QStringLiteral("SaveWaterConversion"),
+            .picker = QStringLiteral("frmSelect_WaterConversion"), .newAddsRow = true, .hasSelect = false};
 }
 }  // namespace
 

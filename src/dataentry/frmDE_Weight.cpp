@@ -12,15 +12,10 @@ const WindowRegistration<frmDE_Weight> reg(QStringLiteral("frmDE_Weight"));
 
 EntryProfile entryProfile()
 {
-    EntryProfile p;
-    p.caption = QStringLiteral("Weight information");
-    p.table = QStringLiteral("tblWeight");
-    p.key = QStringLiteral("WeightID");
-    p.dataControl = QStringLiteral("dcWeight");
-    p.saveRoutine = QStringLiteral("SaveWeight");
-    p.position = QStringLiteral("Species Weight: %1 of %2");
-    p.speciesPanel = true;
-    return p;
+    return {.caption = QStringLiteral("Weight information"), .table = QStringLiteral("tblWeight"),
+            .key = QStringLiteral("WeightID"), .dataControl = QStringLiteral("dcWeight"),
+            .saveRoutine = QStringLiteral("SaveWeight"), .position = QStringLiteral("Species Weight: %1 of %2"),
+            .speciesPanel = true};
 }
 }  // namespace
 
@@ -47,16 +42,22 @@ QString frmDE_Weight::recordSource(qint32 id) const
 {
     const QString head = QStringLiteral("SELECT tblWeight.*, qryReference.Reference FROM qryReference RIGHT JOIN tblWeight ON "
                                         "qryReference.ReferenceID = tblWeight.ReferenceID");
-    if (recordRequest().mode == QLatin1String("Read"))
-        return head + QStringLiteral(" WHERE tblWeight.SpeciesID = %1").arg(id);
+    if (recordRequest().mode == QLatin1String("Read")) {
+        // Every weight of the species: the id is the species', or that of one of its weights.
+        qint32 species = id;
+        if (recordRequest().keyField.compare(profile().key, Qt::CaseInsensitive) == 0) {
+            const QVariant v = session().Lookup(profile().table, QStringLiteral("SpeciesID"), QStringLiteral("WeightID = %1").arg(id));
+            species = v.toString() == QLatin1String("not found") ? 0 : vb::CLng(v);
+        }
+        return head + QStringLiteral(" WHERE tblWeight.SpeciesID = %1").arg(species);
+    }
     return head + QStringLiteral(" WHERE tblWeight.WeightID = %1").arg(id);
 }
 
 void frmDE_Weight::newRecord()
 {
     const QVariant species = currentValue(QStringLiteral("SpeciesID"));
-    const qint32 speciesId = recordRequest().mode == QLatin1String("Read") ? recordRequest().recordId
-                                                                           : (species.isNull() ? 0 : vb::CLng(species));
+    const qint32 speciesId = species.isNull() ? 0 : vb::CLng(species);
     const qint32 id = session().GetNewRecordID(profile().table, profile().key, QStringLiteral("SpeciesID"), speciesId, 0);
     if (recordRequest().mode != QLatin1String("Read")) {
         openOn(id, QStringLiteral("Write"));

@@ -170,3 +170,31 @@ test('measurements by kind: wet and dry energy apart, an emptied minimum null, a
     a.toolbar().click('Close');
     closePickers();
 });
+
+test('descriptors: New, a blank description refused, Save, Cancel of a new one, Delete after asking', () => {
+    const d = () => db.query('Select fldDescriptor, fldUnits From tblDescriptor Order By DescriptorID');
+    pickers.open('frmDE_Descriptor', { filter: false });
+    const w = ui.window('frmDE_Descriptor');
+    expect(w.caption).toBe('Maintain Descriptors');
+    expect(w.control('cmdControl(1)').enabled).toBeFalsy();
+    ui.clearMessages();
+    w.control('cmdControl(6)').click();
+    expect(ui.messages()[0].text).toBe('There are no records to edit.');
+    w.control('cmdControl(0)').click();
+    expect([w.control('cmdControl(1)').enabled, w.control('cmdControl(0)').enabled]).toEqual([true, false]);
+    ui.clearMessages();
+    w.control('cmdControl(1)').click();
+    expect(ui.messages()[0].text).toBe('Description cannot be blank...!!!');
+    w.control('txtFields(0)').setText("Body length (snout's tip)");
+    w.control('txtFields(1)').setText('mm');
+    w.control('cmdControl(1)').click();
+    expect(d()).toEqual([{ fldDescriptor: "Body length (snout's tip)", fldUnits: 'mm' }]);
+    w.control('cmdControl(0)').click();
+    w.control('txtFields(0)').setText('Wing span');
+    w.control('cmdControl(2)').click();
+    expect(d().length).toBe(1);
+    ui.answer('Yes');
+    w.control('cmdControl(3)').click();
+    expect(d()).toEqual([]);
+    w.control('cmdControl(4)').click();
+});
