@@ -29,12 +29,7 @@ BuilderSpeciesPage::BuilderSpeciesPage(frmZOB &window, FormBuilder &page, FormBu
     m_cboTaxon->setEditable(true);
     page.label(QStringLiteral("LbLDataSource"), 0, QString());
     m_w.noteBox(page, 0, QStringLiteral("Species Comments:"), 6);
-    FormBuilder commands = page.row(0, QStringLiteral("fraSpeciesCommands"));
-    m_w.pageButtons(commands, QStringLiteral("cmdSelect"), {
-        {0, QStringLiteral("Select from Database"), [this] { selectFromDatabase(); }},
-        {1, QStringLiteral("Enter Hypothetical Data"), [this] { enterHypothetical(); }}});
-    commands.stretch();
-    m_w.pageButtons(commands, QStringLiteral("cmdMoreInfo"), {{0, QStringLiteral("More Information..."), [this] { m_w.cmdMoreInfo_Click(); }}});
+    m_w.pageCommands(page, 0, [this] { selectFromDatabase(); }, [this] { enterHypothetical(); });
     connect(m_txtCommonName, &QLineEdit::textChanged, this, &BuilderSpeciesPage::namesChanged);
     connect(m_txtLatinName, &QLineEdit::textChanged, this, &BuilderSpeciesPage::namesChanged);
     connect(m_cboTaxon, &QComboBox::currentTextChanged, this, &BuilderSpeciesPage::namesChanged);

@@ -146,6 +146,18 @@ QPlainTextEdit *frmZOB::noteBox(FormBuilder &b, int index, const QString &captio
     return box;
 }
 
+void frmZOB::pageCommands(FormBuilder &page, int p, const std::function<void()> &fromDatabase,
+                          const std::function<void()> &hypothetical)
+{
+    FormBuilder commands = page.row(0, arrayName(QStringLiteral("fraCommands"), p));
+    // The intake page's selection opens a dialog of its own kind, hence its "...".
+    commandButtons(commands, QStringLiteral("cmdSelect"), {
+        {2 * p, p == 3 ? QStringLiteral("Select from Database...") : QStringLiteral("Select from Database"), fromDatabase},
+        {2 * p + 1, QStringLiteral("Enter Hypothetical Data"), hypothetical}});
+    commands.stretch();
+    commandButtons(commands, QStringLiteral("cmdMoreInfo"), {{p, QStringLiteral("More Information..."), [this] { cmdMoreInfo_Click(); }}});
+}
+
 void frmZOB::zoomNote(int index)
 {
     guarded(session(), {ErrForm::Shared, QStringLiteral("txtNotes_DblClick")}, [&] {

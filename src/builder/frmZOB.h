@@ -76,6 +76,10 @@ public:
     {
         return commandButtons(b, name, buttons);
     }
+    //! The command row of page p: cmdSelect(2p) from the database, cmdSelect(2p + 1) hypothetical data,
+    //! and cmdMoreInfo(p).
+    void pageCommands(FormBuilder &page, int p, const std::function<void()> &fromDatabase,
+                      const std::function<void()> &hypothetical);
     //! Opens another window by name for a record; where that window is not part of this version of
     //! the program the user is told so in a box, and false is returned.
     bool openWindow(const QString &name, const RecordRequest &request, bool modal);
