@@ -20,9 +20,13 @@ sp.control('ssGrdMain').selectRow(2);
 shot(sp, 'frmSelect_Species');
 sp.close();
 
+// A weight with every statistic, so that the picture shows every estimator offered.
+const ref = db.query('Select ReferenceID From tblWeight Where SpeciesID = ' + species)[0].ReferenceID;
+db.exec('Insert Into tblWeight (SpeciesID, Mean, Min, Max, Sample, VarValue, VarianceTypeID, StatusID, GenderID, ReferenceID, '
+        + 'DataSourceID) Values (' + species + ', 512.4, 430, 598.5, 12, 41.2, 1, 2, 5, ' + ref + ', 4)');
 pickers.open('frmSelect_Weight', { mode: 'Read' });
 const wt = ui.window('frmSelect_Weight');
-wt.control('ssGrdWeight').selectRow(0);
+wt.control('ssGrdWeight').selectRow(wt.control('ssGrdWeight').rowCount - 1);
 shot(wt, 'frmSelect_Weight');
 wt.close();
 

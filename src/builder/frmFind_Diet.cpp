@@ -83,7 +83,7 @@ void frmFind_Diet::serveRequest()
         m_dc->setDatabase(session().gDB);
         m_dc->setRecordSource(listStatement(speciesId()));
         m_dc->Refresh();
-        m_grid->fitColumns(30);
+        m_grid->fitColumns(24);
     });
 }
 

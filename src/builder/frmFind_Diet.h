@@ -14,6 +14,8 @@ class frmFind_Diet : public RequestWindow {
 public:
     frmFind_Diet(Session &session, QtWindowHost &host);
 
+    bool isMdiChild() const override { return false; }
+
     //! The diets of a species.
     static QString listStatement(qint32 speciesId);
 

@@ -102,6 +102,7 @@ void frmSelect_Weight::buildOptions(FormBuilder &b)
     for (int i = 0; i < 4; ++i)
         m_optGender.append(gender.option(QStringLiteral("optGender"), i, QString::fromLatin1(kGender[i])));
     gender.stretch();
+    filters.stretch();
     top.stretch();
     m_optStatus.last()->setChecked(true);
     m_optGender.last()->setChecked(true);

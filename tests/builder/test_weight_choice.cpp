@@ -1,12 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "Database.h"
-#include "Recordset.h"
-#include "TestSupport.h"
 #include "VbError.h"
 #include "WeightChoice.h"
-#include "frmFind_Diet.h"
-#include "frmSelect_Diet.h"
-#include "frmSelect_Species.h"
 
 #include <gtest/gtest.h>
 #include <limits>
@@ -85,36 +79,4 @@ TEST(WeightChoice, TheListIsNarrowedOnlyForAKnownSpecies)
     EXPECT_EQ(headOrder(9), QStringLiteral("tblHabitatType.description"));
     EXPECT_TRUE(headOrder(0).isEmpty());
     EXPECT_TRUE(headOrder(10).isEmpty());
-}
-
-// The dialogs' statements run on the seeded database and list what the tables hold.
-TEST(DialogStatements, RunOnTheSeededDatabase)
-{
-    TestSession ts;
-    Database &db = *ts->gDB;
-    auto count = [&](const QString &sql) {
-        auto rs = db.OpenRecordset(sql, RecordsetType::Snapshot);
-        if (rs->EOF_())
-            return 0;
-        rs->MoveLast();
-        return rs->RecordCount();
-    };
-    auto scalar = [&](const QString &sql) { return db.OpenRecordset(sql, RecordsetType::Snapshot)->field(0).toInt(); };
-
-    const int withReference = scalar(QStringLiteral(
-        "Select Count(*) From tblWeight Where SpeciesID = 25 And ReferenceID In (Select ReferenceID From tblReferences)"));
-    EXPECT_GT(withReference, 0);
-    EXPECT_EQ(count(listStatement(25, 0, 0, QStringLiteral("tblStatus.Description"))), withReference);
-    EXPECT_EQ(count(listStatement(25, 0, 4, headOrder(3))),
-              scalar(QStringLiteral("Select Count(*) From tblWeight Where SpeciesID = 25 And GenderID = 4 And ReferenceID In "
-                                    "(Select ReferenceID From tblReferences)")));
-
-    EXPECT_EQ(count(frmSelect_Species::listStatement(QStringLiteral("Taxon"))), scalar(QStringLiteral("Select Count(*) From tblSpecies")));
-    EXPECT_EQ(count(frmSelect_Species::taxonStatement(2)), scalar(QStringLiteral("Select Count(*) From tblSpecies Where TaxonID = 2")));
-
-    const int species = scalar(QStringLiteral("Select SpeciesID From tblDiet Order By DietID"));
-    const int diets = scalar(QStringLiteral("Select Count(*) From tblDiet Where SpeciesID = %1").arg(species));
-    EXPECT_EQ(count(frmSelect_Diet::dietStatement(0, species)), diets);
-    EXPECT_EQ(count(frmSelect_Diet::dietStatement(1, species)), 1);
-    EXPECT_EQ(count(frmFind_Diet::listStatement(species)), diets);
 }

@@ -161,6 +161,12 @@ test('diet: the species\' diets one at a time with their items, locked; Select c
     expect(w.control('txtTL').text).toBe(calc.GetAvgTrophicLevel(dietId, 'tblDietItem'));
     w.control('ssGrdDietItems').headClick(1);
     expect(ui.helpTopic()).toBe(1035);
+    w.control('ssGrdDietItems').dblClickRow(0);
+    expect(ui.window('frmZoom').caption).toBe('Enter/Modify Data');
+    ui.window('frmZoom').close();
+    w.control('txtRegion(1)').dblClick();
+    expect(ui.window('frmZoom').caption).toBe('View Text');
+    ui.window('frmZoom').close();
     w.toolbar().click(6);
     expect(ui.windows()).not.toContain('frmSelect_Diet');
     expect(db.query('Select DietID From tblWildlifeDiet Where ScenarioID = ' + sid).map(r => r.DietID)).toEqual([dietId]);
