@@ -106,6 +106,17 @@ void BuilderSpeciesPage::load(qint32 id, qint32 dataSourceId, qint32 previousId)
     });
 }
 
+void BuilderSpeciesPage::leave()
+{
+    clsScenario &sc = *m_w.session().gScenario;
+    if (sc.SpeciesHasChanged.toBool()) {
+        m_w.ClearCurrentScenario();
+        sc.SpeciesHasChanged = false;
+    }
+    if ((sc.Species_DataSource == 2 && sc.SpeciesID == 0) || sc.SpeciesID > 0)
+        sc.Save(QStringLiteral("Species"));
+}
+
 bool BuilderSpeciesPage::namesBlank() const
 {
     return ControlValue::text(m_txtCommonName).trimmed().isEmpty() || ControlValue::text(m_txtLatinName).trimmed().isEmpty();

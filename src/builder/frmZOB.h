@@ -61,6 +61,11 @@ public:
     //! False, after a message, when no diet item exists at all.
     bool WildlifeDietItemsExist();
 
+    //! "Calculations": saves the species and shows the review of the calculations where the
+    //! scenario has diet items; the press that follows a change of species only clears and saves.
+    void calculations();
+    //! Turns to the species page and the air sub-page.
+    void showFirstPages();
     //! "More Information...": the record behind the page on show, read-only.
     void cmdMoreInfo_Click();
     //! The page of ssTabSB on show.
@@ -86,11 +91,7 @@ public:
 
 private:
     void buildHeader(FormBuilder &b);
-    void buildCommands(FormBuilder &b);
-    void buildMenu();
     void pageLeft(int page);
-    void calculations();
-    void newScenario(bool firstPage);
     void zoomNote(int index);
     void loadEditedScenario();
     //! Notes the species the page now stands for, against which a later choice counts as a change.
