@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "DataFolder.h"
 #include "Diagnostics.h"
+#include "HeadlessReport.h"
 #include "QtServices.h"
 #include "QtWindowHost.h"
 #include "Session.h"
@@ -44,6 +45,10 @@ void describeOptions(QCommandLineParser &parser)
         {QStringLiteral("script"), QStringLiteral("Run a JavaScript file after start-up."), QStringLiteral("FILE.js")},
         {QStringLiteral("quit-after-script"), QStringLiteral("End the program when the script ends.")},
         {QStringLiteral("script-timeout"), QStringLiteral("Time limit of the script (default 120)."), QStringLiteral("SECONDS"), QStringLiteral("120")},
+        {QStringLiteral("report"), QStringLiteral("Write the named report as a PDF file and end, without a window (with --pdf and --scenario or --project)."), QStringLiteral("NAME")},
+        {QStringLiteral("scenario"), QStringLiteral("The scenario of --report."), QStringLiteral("SID")},
+        {QStringLiteral("project"), QStringLiteral("The project of --report (ProjectSummary)."), QStringLiteral("PID")},
+        {QStringLiteral("pdf"), QStringLiteral("The PDF file that --report writes."), QStringLiteral("FILE")},
     });
 }
 
@@ -61,11 +66,27 @@ void answerHelpOrVersion(int argc, char *argv[])
             parser.process(core);
 }
 
+//! A report made from the command line shows nothing, so it needs no display: unless a platform is
+//! named, it runs on the offscreen one.
+bool reportWithoutWindow(int argc, char *argv[])
+{
+    for (int i = 1; i < argc; ++i) {
+        const QByteArray arg(argv[i]);
+        if (arg == "--report" || arg == "-report" || arg.startsWith("--report=")) {
+            if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+                qputenv("QT_QPA_PLATFORM", "offscreen");
+            return true;
+        }
+    }
+    return false;
+}
+
 }  // namespace
 
 int main(int argc, char *argv[])
 {
     answerHelpOrVersion(argc, argv);
+    const bool reportOnly = reportWithoutWindow(argc, argv);
     QApplication app(argc, argv);
     setProgramNames();
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/zobrel.svg")));
@@ -95,6 +116,8 @@ int main(int argc, char *argv[])
         messages = std::move(recorded);
     }
 #endif
+    if (!messages && reportOnly)
+        messages = std::make_unique<ConsoleMessageService>();
     if (!messages)
         messages = std::make_unique<QtMessageService>();
     session.messages = messages.get();
@@ -122,6 +145,9 @@ int main(int argc, char *argv[])
     }
     // The one diet-item object lives for the whole run.
     session.gDietItem = std::make_shared<clsDietItem>(session);
+    if (reportOnly)
+        return makeReport(session, host, {parser.value(QStringLiteral("report")), parser.value(QStringLiteral("scenario")),
+                                          parser.value(QStringLiteral("project")), parser.value(QStringLiteral("pdf"))});
 
     frmMDI mdi(session, host);
     mdi.show();

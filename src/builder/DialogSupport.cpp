@@ -23,6 +23,16 @@ void keepFrameHeight(QGroupBox *frame)
     frame->setSizePolicy(frame->sizePolicy().horizontalPolicy(), QSizePolicy::Maximum);
 }
 
+RecordRequest recordOf(const QString &table, const QString &keyField, qint32 id, const QString &mode)
+{
+    RecordRequest request;
+    request.recordId = id;
+    request.keyField = keyField;
+    request.table = table;
+    request.mode = mode;
+    return request;
+}
+
 bool openForRecord(ZobWindow &from, const QString &name, const RecordRequest &request, bool modal, bool unloadFirst)
 {
     if (!windowAvailable(from.session(), name))

@@ -26,12 +26,10 @@ frmFind_Diet::frmFind_Diet(Session &session, QtWindowHost &host)
     FormBuilder b(this);
     buildToolbar(b, {ToolButton::separator(),
                      {"New", "Add New record", "New", [this] {
-                          RecordRequest request;
-                          request.recordId = speciesId();
-                          request.keyField = QStringLiteral("SpeciesID");
-                          request.table = QStringLiteral("tblSpecies");
-                          request.mode = QStringLiteral("Write");
-                          openForRecord(*this, QStringLiteral("frmDE_Species"), request, false, false);
+                          openForRecord(*this, QStringLiteral("frmDE_Species"),
+                                        recordOf(QStringLiteral("tblSpecies"), QStringLiteral("SpeciesID"), speciesId(),
+                                                 QStringLiteral("Write")),
+                                        false, false);
                       }},
                      ToolButton::separator(),
                      {"Select", "Show the highlighted diet", "Select", [this] { select(); }},
@@ -93,8 +91,6 @@ void frmFind_Diet::select()
         session().msgBox(QStringLiteral("No records to select."), QString(), MsgIcon::Warning);
         return;
     }
-    RecordRequest request;
-    request.recordId = vb::CLng(m_dc->current().field(QStringLiteral("DietID")));
-    request.mode = QStringLiteral("Read");
-    openForRecord(*this, QStringLiteral("frmSelect_Diet"), request, false);
+    const qint32 dietId = vb::CLng(m_dc->current().field(QStringLiteral("DietID")));
+    openForRecord(*this, QStringLiteral("frmSelect_Diet"), recordOf(QString(), QString(), dietId, QStringLiteral("Read")), false);
 }

@@ -268,10 +268,8 @@ void frmSelect_Diet::columnHelp(int logical)
 void frmSelect_Diet::newDiet()
 {
     // A new diet is made in the species' data-entry window, on the scenario's species.
-    RecordRequest request;
-    request.recordId = session().gScenario->SpeciesID;
-    request.keyField = QStringLiteral("SpeciesID");
-    request.table = QStringLiteral("tblSpecies");
-    request.mode = QStringLiteral("Write");
-    openForRecord(*this, QStringLiteral("frmDE_Species"), request, false, false);
+    openForRecord(*this, QStringLiteral("frmDE_Species"),
+                  recordOf(QStringLiteral("tblSpecies"), QStringLiteral("SpeciesID"), session().gScenario->SpeciesID,
+                           QStringLiteral("Write")),
+                  false, false);
 }

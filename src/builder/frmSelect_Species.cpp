@@ -49,7 +49,6 @@ frmSelect_Species::frmSelect_Species(Session &session, QtWindowHost &host)
     FormBuilder taxa = bottom.frame(QStringLiteral("fraTaxon"), QStringLiteral("Taxon"), true);
     for (int i = 0; i < 4; ++i) {
         QRadioButton *opt = taxa.option(QStringLiteral("optSpec"), i, QString::fromLatin1(kTaxa[i]));
-        m_optSpec.append(opt);
         connect(opt, &QRadioButton::clicked, this,
                 [this, i] { runCommand(QStringLiteral("optSpec_Click"), [this, i] { bind(taxonStatement(i + 1)); }); });
     }
@@ -126,32 +125,18 @@ void frmSelect_Species::select()
 
 void frmSelect_Species::openSpecies(qint32 speciesId, const QString &mode)
 {
-    RecordRequest request;
-    request.recordId = speciesId;
-    request.keyField = QStringLiteral("SpeciesID");
-    request.table = QStringLiteral("tblSpecies");
-    request.mode = mode;
-    openForRecord(*this, kEntryWindow, request, false);
+    openForRecord(*this, kEntryWindow, recordOf(QStringLiteral("tblSpecies"), QStringLiteral("SpeciesID"), speciesId, mode), false);
 }
 
 void frmSelect_Species::newSpecies()
 {
-    if (!windowAvailable(session(), kEntryWindow))
-        return;
-    RecordRequest request;
-    request.recordId = session().GetNewRecordID(QStringLiteral("tblSpecies"), QStringLiteral("SpeciesID"), QString(), 0, 0);
-    request.keyField = QStringLiteral("SpeciesID");
-    request.table = QStringLiteral("tblSpecies");
-    request.mode = QStringLiteral("Write");
-    openForRecord(*this, kEntryWindow, request, false);
+    if (windowAvailable(session(), kEntryWindow))
+        openSpecies(session().GetNewRecordID(QStringLiteral("tblSpecies"), QStringLiteral("SpeciesID"), QString(), 0, 0),
+                    QStringLiteral("Write"));
 }
 
 void frmSelect_Species::browseSpecies()
 {
-    const QString search = QStringLiteral("frmSearch_LifeHistory");
-    RecordRequest request;
-    request.recordId = session().gScenario->SID;
-    request.table = QStringLiteral("tblWildlife");
-    request.keyField = QStringLiteral("ScenarioID");
-    openForRecord(*this, search, request, true);
+    openForRecord(*this, QStringLiteral("frmSearch_LifeHistory"),
+                  recordOf(QStringLiteral("tblWildlife"), QStringLiteral("ScenarioID"), session().gScenario->SID, QString()), true);
 }

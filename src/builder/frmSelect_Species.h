@@ -3,11 +3,8 @@
 
 #include "RequestWindow.h"
 
-#include <QList>
-
 class DataControl;
 class DataGrid;
-class QRadioButton;
 
 //! Lists the species of the reference data, sorted by a column head or narrowed to one taxon. Opened
 //! by the builder (entry "ZOB") its Select gives the chosen species to the scenario; otherwise Select
@@ -39,5 +36,4 @@ private:
 
     DataControl *m_dcMain;
     DataGrid *m_grid;
-    QList<QRadioButton *> m_optSpec;
 };

@@ -193,12 +193,7 @@ void frmSelect_Weight::SaveSelectedWeight(qint32 weightId)
 
 void frmSelect_Weight::openWeight(qint32 weightId, const QString &mode, bool modal)
 {
-    RecordRequest request;
-    request.recordId = weightId;
-    request.keyField = QStringLiteral("WeightID");
-    request.table = QStringLiteral("tblWeight");
-    request.mode = mode;
-    openForRecord(*this, kEntryWindow, request, modal);
+    openForRecord(*this, kEntryWindow, recordOf(QStringLiteral("tblWeight"), QStringLiteral("WeightID"), weightId, mode), modal);
 }
 
 void frmSelect_Weight::newWeight()

@@ -28,8 +28,13 @@ void ActiveReport::prepare()
 {
     m_data = {};
     ActiveReport_ReportStart();
-    if (recordSource.isEmpty())
-        return;
+    if (!recordSource.isEmpty())
+        read();
+    dataOpened();
+}
+
+void ActiveReport::read()
+{
     auto rs = m_session.gDB->OpenRecordset(recordSource, RecordsetType::Snapshot);
     m_data.columns = rs->fieldNames();
     while (!rs->EOF_()) {
@@ -55,6 +60,12 @@ ReportItem &ActiveReport::item(const QString &name)
             if (i.name.compare(name, Qt::CaseInsensitive) == 0)
                 return i;
     throw VbError(2465, QStringLiteral("Report '%1' has no control named '%2'").arg(m_name, name));
+}
+
+QHash<QString, ReportFactory> &reportDesigns()
+{
+    static QHash<QString, ReportFactory> designs;
+    return designs;
 }
 
 ReportItem label(const QString &name, const QString &text, double x, double y, double w, double h)

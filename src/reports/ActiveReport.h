@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QHash>
 #include <QList>
 #include <QString>
 #include <QStringList>
@@ -64,6 +65,8 @@ public:
 
     //! Runs before layout: sets recordSource and fills unbound items.
     virtual void ActiveReport_ReportStart() {}
+    //! Runs once the data control's rows are read: fills the items that depend on them.
+    virtual void dataOpened() {}
 
     const QString &name() const { return m_name; }
     //! What the report is about (a scenario or project id); a preview lays the report out again
@@ -73,7 +76,8 @@ public:
     QString caption;
     Session &session() const { return m_session; }
 
-    //! Runs the start routine and reads the data control's statement (no statement: no rows).
+    //! Runs the start routine, reads the data control's statement (no statement: no rows) and then
+    //! runs dataOpened.
     void prepare();
     const ReportData &data() const { return m_data; }
 
@@ -101,9 +105,16 @@ protected:
     Session &m_session;
 
 private:
+    void read();
+
     QString m_name;
     ReportData m_data;
 };
+
+//! Makes a report design for a session.
+using ReportFactory = std::function<std::unique_ptr<ActiveReport>(Session &)>;
+//! The report designs by name; each adds itself as it registers (ReportRegistration).
+QHash<QString, ReportFactory> &reportDesigns();
 
 //! Design helpers: a label, a bound field, a label and field side by side, a rule.
 ReportItem label(const QString &name, const QString &text, double x, double y, double w, double h = 12);

@@ -120,63 +120,6 @@ QString ReportLayout::itemText(const ReportItem &item, const ReportData &data, i
     return item.format.isEmpty() ? defaultText(v) : vb::vbFormat(v, item.format);
 }
 
-QList<DrawnItem> ReportLayout::content(const ReportItem &item, const ReportData &data, int row, int first, int last,
-                                       double &height) const
-{
-    if (item.kind == ItemKind::Line) {
-        height = item.h;
-        return {DrawnItem{QRectF(0, 0, item.w, 0), {}, {}, Qt::AlignLeft, true}};
-    }
-    if (item.kind == ItemKind::SubReport) {
-        height = 0;
-        if (!item.subReport)
-            return {};
-        const std::unique_ptr<ActiveReport> sub = item.subReport(data, row);
-        sub->prepare();
-        QList<DrawnItem> out;
-        for (const Band &b : flow(*sub)) {
-            for (DrawnItem d : b.items) {
-                d.rect.translate(0, height);
-                out << d;
-            }
-            height += b.height;
-        }
-        return out;
-    }
-    return wrap(itemText(item, data, row, first, last), fontOf(item), item.w, item.align, height);
-}
-
-ReportLayout::Band ReportLayout::band(const ReportSection &section, const ReportData &data, int row, int first,
-                                      int last) const
-{
-    Band out;
-    if (!section.visible)
-        return out;
-    QList<const ReportItem *> items;
-    for (const ReportItem &i : section.items)
-        items << &i;
-    std::stable_sort(items.begin(), items.end(), [](const ReportItem *a, const ReportItem *b) { return a->y < b->y; });
-    // An item moves down by the growth of the items that end above it.
-    QList<double> pushed;
-    double grown = 0;
-    for (int i = 0; i < items.size(); ++i) {
-        const ReportItem &it = *items[i];
-        double shift = 0;
-        for (int j = 0; j < i; ++j)
-            if (items[j]->y + items[j]->h <= it.y + 0.01)
-                shift = std::max(shift, pushed[j]);
-        double h = 0;
-        for (DrawnItem d : content(it, data, row, first, last, h)) {
-            d.rect.translate(it.x, it.y + shift);
-            out.items << d;
-        }
-        pushed << shift + std::max(0.0, h - it.h);
-        grown = std::max(grown, pushed.last());
-    }
-    out.height = section.height + grown;
-    return out;
-}
-
 namespace {
 //! Visits the bands of a report in order: report header, then for each row the group footer and
 //! header at a change of the group value and the detail, then the last group footer and the report
@@ -205,11 +148,94 @@ void walk(ActiveReport &report, Make make, Visit visit)
 }
 }  // namespace
 
-QList<ReportLayout::Band> ReportLayout::flow(ActiveReport &report) const
+ReportLayout::Band ReportLayout::content(const ReportItem &item, const ReportData &data, int row, int first, int last) const
 {
-    QList<Band> out;
-    walk(report, [&](const ReportSection &s, int row, int first, int last) { return band(s, report.data(), row, first, last); },
-         [&](const Band &b, int, int) { out << b; });
+    Band out;
+    if (item.kind == ItemKind::Line) {
+        out.height = item.h;
+        out.items << DrawnItem{QRectF(0, 0, item.w, 0), {}, {}, Qt::AlignLeft, true};
+    } else if (item.kind == ItemKind::SubReport) {
+        if (item.subReport) {
+            const std::unique_ptr<ActiveReport> sub = item.subReport(data, row);
+            sub->prepare();
+            out = subReport(*sub);
+        }
+    } else {
+        out.items = wrap(itemText(item, data, row, first, last), fontOf(item), item.w, item.align, out.height);
+    }
+    return out;
+}
+
+ReportLayout::Band ReportLayout::band(const ReportSection &section, const ReportData &data, int row, int first,
+                                      int last) const
+{
+    Band out;
+    if (!section.visible)
+        return out;
+    QList<const ReportItem *> items;
+    for (const ReportItem &i : section.items)
+        items << &i;
+    std::stable_sort(items.begin(), items.end(), [](const ReportItem *a, const ReportItem *b) { return a->y < b->y; });
+    // An item moves down by the growth of the items that end above it.
+    QList<double> pushed;
+    double grown = 0;
+    for (int i = 0; i < items.size(); ++i) {
+        const ReportItem &it = *items[i];
+        double shift = 0;
+        for (int j = 0; j < i; ++j)
+            if (items[j]->y + items[j]->h <= it.y + 0.01)
+                shift = std::max(shift, pushed[j]);
+        const Band c = content(it, data, row, first, last);
+        for (DrawnItem d : c.items) {
+            d.rect.translate(it.x, it.y + shift);
+            out.items << d;
+        }
+        for (const auto &[top, bottom] : c.keep)
+            out.keep << std::pair(top + it.y + shift, bottom + it.y + shift);
+        if (!c.head.isEmpty()) {
+            out.head.clear();
+            for (DrawnItem d : c.head) {
+                d.rect.translate(it.x, 0);
+                out.head << d;
+            }
+            out.headHeight = c.headHeight;
+            out.headTop = c.headTop + it.y + shift;
+        }
+        pushed << shift + std::max(0.0, c.height - it.h);
+        grown = std::max(grown, pushed.last());
+    }
+    out.height = section.height + grown;
+    return out;
+}
+
+ReportLayout::Band ReportLayout::subReport(ActiveReport &sub) const
+{
+    Band out;
+    // Each band is kept on one page, a group head together with the band after it.
+    double keepFrom = -1;
+    walk(sub, [&](const ReportSection &s, int row, int first, int last) { return band(s, sub.data(), row, first, last); },
+         [&](const Band &b, int, int edge) {
+             if (b.items.isEmpty() && b.height <= 0)
+                 return;
+             for (DrawnItem d : b.items) {
+                 d.rect.translate(0, out.height);
+                 out.items << d;
+             }
+             if (edge == 1 && sub.groupHeader.repeat) {
+                 out.head = b.items;
+                 out.headHeight = b.height;
+                 out.headTop = out.height;
+             }
+             if (edge == 1) {
+                 keepFrom = out.height;
+             } else {
+                 out.keep << std::pair(keepFrom >= 0 ? keepFrom : out.height, out.height + b.height);
+                 keepFrom = -1;
+             }
+             out.height += b.height;
+         });
+    if (keepFrom >= 0)
+        out.keep << std::pair(keepFrom, out.height);
     return out;
 }
 
@@ -283,19 +309,36 @@ void ReportLayout::place(const Band &b)
         put(b, m_y);
         return;
     }
-    if (m_y > m_pageTop + 0.01 && b.height <= m_bottom - m_pageTop) {
+    if (b.keep.isEmpty() && m_y > m_pageTop + 0.01 && b.height <= m_bottom - m_pageTop) {
         m_start();
         put(b, m_y);
         return;
     }
-    // Taller than a page: split between its lines.
+    // Split over pages: between the kept spans that fit on a page, otherwise between lines.
     QList<DrawnItem> items = b.items;
     std::stable_sort(items.begin(), items.end(), [](const DrawnItem &x, const DrawnItem &y) { return x.rect.top() < y.rect.top(); });
+    const double room = m_bottom - m_pageTop - b.headHeight;
     double origin = m_y;
+    double floor = m_pageTop;
     for (DrawnItem d : items) {
-        if (origin + d.rect.bottom() > m_bottom + 0.01 && origin + d.rect.top() > m_pageTop + 0.01) {
+        double top = d.rect.top(), bottom = d.rect.bottom();
+        for (const auto &[kt, kb] : b.keep)
+            if (top >= kt - 0.01 && top < kb - 0.01 && kb - kt <= room) {
+                top = kt;
+                bottom = std::max(bottom, kb);
+                break;
+            }
+        if (origin + bottom > m_bottom + 0.01 && origin + top > floor + 0.01) {
             m_start();
-            origin = m_y - d.rect.top();
+            if (top > b.headTop + 0.01) {
+                for (DrawnItem h : b.head) {
+                    h.rect.translate(kMargin, m_y);
+                    m_pages.last().items << h;
+                }
+                m_y += b.headHeight;
+            }
+            floor = m_y;
+            origin = m_y - top;
         }
         d.rect.translate(kMargin, origin);
         m_pages.last().items << d;

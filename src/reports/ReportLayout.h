@@ -31,7 +31,7 @@ struct ReportPage {
 //! once, group headers at each change of their field (repeated on a new page when asked), a detail
 //! band for each row, group and report footers with their summaries, and sub-reports in line.
 //! A band that does not fit goes to the next page whole; one taller than a page is split between
-//! its lines. "Page N of M" items are filled once the pages are counted.
+//! its lines, and one with a sub-report between the sub-report's bands. "Page N of M" items are filled once the pages are counted.
 class ReportLayout {
 public:
     static constexpr double kMargin = 36;
@@ -47,19 +47,28 @@ public:
     //! Writes the pages as a PDF file; false when the file cannot be written.
     static bool writePdf(const QList<ReportPage> &pages, const QString &path, bool letter, const QString &title);
 
-    //! A band made ready for a page: its items relative to its top, and its height.
+    //! A band made ready for a page: its items relative to its top, and its height. A band with a
+    //! sub-report keeps each of the sub-report's own bands on one page when it runs over pages, and
+    //! draws the sub-report's repeated group head again at the top of each page it runs onto.
     struct Band {
         QList<DrawnItem> items;
         double height = 0;
+        //! Spans (top, bottom) that are not split between pages.
+        QList<std::pair<double, double>> keep;
+        //! The head repeated on each further page once the band has passed it, its height, and
+        //! where it first stands in the band.
+        QList<DrawnItem> head;
+        double headHeight = 0;
+        double headTop = 0;
     };
     //! The band of a section for a row (-1: none), summaries over rows [first, last).
     Band band(const ReportSection &section, const ReportData &data, int row, int first, int last) const;
-    //! The bands of a whole report in order, without page header and footer (used for sub-reports).
-    QList<Band> flow(ActiveReport &report) const;
 
 private:
-    QList<DrawnItem> content(const ReportItem &item, const ReportData &data, int row, int first, int last,
-                             double &height) const;
+    //! An item's drawn content relative to its top left corner.
+    Band content(const ReportItem &item, const ReportData &data, int row, int first, int last) const;
+    //! A sub-report laid out in line: its bands one under the other, each kept whole.
+    Band subReport(ActiveReport &sub) const;
     QList<DrawnItem> wrap(const QString &text, const QFont &font, double w, Qt::Alignment align, double &height) const;
     QString itemText(const ReportItem &item, const ReportData &data, int row, int first, int last) const;
 

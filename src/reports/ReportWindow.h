@@ -2,6 +2,8 @@
 #pragma once
 
 #include "ActiveReport.h"
+#include "QtWindowHost.h"
+#include "ReportDesign.h"
 #include "ReportLayout.h"
 #include "ReportView.h"
 #include "ZobWindow.h"
@@ -45,4 +47,16 @@ template <typename R>
 class ReportWindowOf : public ReportWindow {
 public:
     ReportWindowOf(Session &session, QtWindowHost &host) : ReportWindow(session, host, std::make_unique<R>(session)) {}
+};
+
+//! Registers report design R under its name: its preview window, the design itself, and its entry in
+//! the catalogue of reports with its subject (a scenario report or a project report).
+template <typename R>
+struct ReportRegistration {
+    explicit ReportRegistration(const QString &name) : window(name)
+    {
+        reportCatalogue().insert(name, std::is_base_of_v<ScenarioReport, R> ? ReportSubject::Scenario : ReportSubject::Project);
+        reportDesigns().insert(name, [](Session &s) { return std::make_unique<R>(s); });
+    }
+    WindowRegistration<ReportWindowOf<R>> window;
 };

@@ -1,15 +1,13 @@
 // SPDX-License-Identifier: MIT
 // The overview report of the open scenario: who made and changed it, and its description.
-#include "ProjectSummary.h"
 #include "QtWindowHost.h"
+#include "ReportDesign.h"
 #include "ReportWindow.h"
-#include "Session.h"
-#include "clsScenario.h"
 
 namespace {
-class ws_Scenario : public ActiveReport {
+class ws_Scenario : public ScenarioReport {
 public:
-    explicit ws_Scenario(Session &session) : ActiveReport(session, QStringLiteral("ws_Scenario"))
+    explicit ws_Scenario(Session &session) : ScenarioReport(session, QStringLiteral("ws_Scenario"))
     {
         caption = QStringLiteral("Wildlife Scenario");
         addReportHeading(*this, QStringLiteral("Report Type: OVERVIEW"), QStringLiteral("File"), QStringLiteral("Scenario_LastSaved"));
@@ -22,7 +20,6 @@ public:
         detail.height = 76;
         addPageFooter(*this);
     }
-    QString subject() const override { return QString::number(m_session.gScenario ? m_session.gScenario->SID : 0); }
     void ActiveReport_ReportStart() override
     {
         recordSource = QStringLiteral("SELECT tblScenario.Scenario_FileName AS File, tblScenario.Scenario_CreatedBy, "
@@ -30,5 +27,5 @@ public:
                                       "ScenarioDescription FROM tblScenario WHERE tblScenario.ScenarioID  = ") + subject();
     }
 };
-const WindowRegistration<ReportWindowOf<ws_Scenario>> reg(QStringLiteral("ws_Scenario"));
+const ReportRegistration<ws_Scenario> reg(QStringLiteral("ws_Scenario"));
 }  // namespace

@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "ws_intake.h"
 
-#include "ProjectSummary.h"
 #include "QtWindowHost.h"
 #include "ReportWindow.h"
 
 namespace {
-const WindowRegistration<ReportWindowOf<ws_intake>> reg(QStringLiteral("ws_intake"));
-constexpr double kWidth = 523;
+const ReportRegistration<ws_intake> reg(QStringLiteral("ws_intake"));
 constexpr double kSize = 7.5;
 
 //! The columns of the intake rows: head, field name, column, x, width, pattern, right-aligned.
@@ -69,7 +67,20 @@ ReportItem small(ReportItem item)
 }
 }  // namespace
 
-ws_intake::ws_intake(Session &session) : ActiveReport(session, QStringLiteral("ws_intake"))
+void addIntakeColumns(ReportSection &heads, double y, ReportSection &detail)
+{
+    for (const Column &c : kColumns) {
+        ReportItem head = small(bold(label({}, QString::fromLatin1(c.head), c.x, y, c.w, 18)));
+        head.align = c.right ? Qt::AlignRight : Qt::AlignLeft;
+        heads.items << head;
+        detail.items << small(field(QString::fromLatin1(c.name), QString::fromLatin1(c.column), c.x, 2, c.w,
+                                    QString::fromLatin1(c.format), c.right ? Qt::AlignRight : Qt::AlignLeft));
+    }
+    heads.items << rule(0, y + 20, kReportWidth);
+    detail.height = 14;
+}
+
+ws_intake::ws_intake(Session &session) : ScenarioReport(session, QStringLiteral("ws_intake"))
 {
     caption = QStringLiteral("Wildlife Intake");
     addReportHeading(*this, QStringLiteral("Report Type:  INTAKE"), {}, {});
@@ -81,33 +92,25 @@ ws_intake::ws_intake(Session &session) : ActiveReport(session, QStringLiteral("w
         const double x = i % 2 ? 330 : 0, y = 66 + (i / 2) * 14;
         h.items << label({}, QString::fromLatin1(heads[i].first), x, y, 80) << label(QString::fromLatin1(heads[i].second), {}, x + 80, y, 170);
     }
-    h.items << bold(label(QStringLiteral("lblIntakeRates"), QStringLiteral("Intake Rates"), 0, 112, kWidth, 14), 11);
-    for (const Column &c : kColumns) {
-        ReportItem head = small(bold(label({}, QString::fromLatin1(c.head), c.x, 130, c.w, 18)));
-        head.align = c.right ? Qt::AlignRight : Qt::AlignLeft;
-        h.items << head;
-        detail.items << small(field(QString::fromLatin1(c.name), QString::fromLatin1(c.column), c.x, 2, c.w,
-                                    QString::fromLatin1(c.format), c.right ? Qt::AlignRight : Qt::AlignLeft));
-    }
-    h.items << rule(0, 150, kWidth);
+    h.items << bold(label(QStringLiteral("lblIntakeRates"), QStringLiteral("Intake Rates"), 0, 112, kReportWidth, 14), 11);
+    addIntakeColumns(h, 130, detail);
     h.height = 154;
-    detail.height = 14;
 
     ReportSection &f = reportFooter;
-    f.items << rule(0, 2, kWidth);
+    f.items << rule(0, 2, kReportWidth);
     for (int i = 0; i < 9; ++i) {
         ReportItem item = small(label(QString::fromLatin1(kSoilLine[i].first), QString::fromLatin1(kSoilLine[i].second),
                                       kColumns[i].x, 6, kColumns[i].w));
         item.align = kColumns[i].right ? Qt::AlignRight : Qt::AlignLeft;
         f.items << item;
     }
-    f.items << rule(0, 22, kWidth) << bold(label(QStringLiteral("lblSupporting"), QStringLiteral("Supporting Information"), 0, 30, kWidth, 14), 11);
+    f.items << rule(0, 22, kReportWidth) << bold(label(QStringLiteral("lblSupporting"), QStringLiteral("Supporting Information"), 0, 30, kReportWidth, 14), 11);
     double y = 48;
     for (const Line &l : kSupport) {
         const QString name = QString::fromLatin1(l.name);
         if (!name.isEmpty()) {
             f.items << small(bold(label({}, QString::fromLatin1(l.caption), 0, y, 170)))
-                    << small(label(name, QString::fromLatin1(l.text), 175, y, name == QLatin1String("fldEqnText4") ? 120 : kWidth - 175));
+                    << small(label(name, QString::fromLatin1(l.text), 175, y, name == QLatin1String("fldEqnText4") ? 120 : kReportWidth - 175));
             if (name == QLatin1String("fldEqnText4"))
                 f.items << small(label(QStringLiteral("fldF_Soil"), {}, 300, y, 100));
             if (name == QLatin1String("fldEqnText5")) {
@@ -119,7 +122,7 @@ ws_intake::ws_intake(Session &session) : ActiveReport(session, QStringLiteral("w
     }
     y += 8;
     for (int i = 1; i <= 4; ++i, y += 12)
-        f.items << small(label({}, QString::number(i), 0, y, 12)) << small(label(QStringLiteral("lbl%1").arg(i), {}, 14, y, kWidth - 14));
+        f.items << small(label({}, QString::number(i), 0, y, 12)) << small(label(QStringLiteral("lbl%1").arg(i), {}, 14, y, kReportWidth - 14));
     f.height = y + 4;
     addPageFooter(*this);
 }

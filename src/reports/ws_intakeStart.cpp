@@ -25,9 +25,9 @@ double log10Of(double x)
 }
 }  // namespace
 
-QString ws_intake::subject() const
+QString intakeRatesSql(qint32 sid)
 {
-    return QString::number(m_session.gScenario ? m_session.gScenario->SID : 0);
+    return QStringLiteral("SELECT tblIntakeZOB.ScenarioID, tblIntakeType.Description AS IntakeType, tblIntakeZOB.Units, tblIntakeZOB.BaseRate, tblIntakeZOB.AdjustedRate, tblIntakeZOB.Derivation, tblIntakeZOB.Measured_CF, tblDataSource.Description AS DataSource, tblIntakeZOB.Comments, tblEstimator.Description AS Estimator FROM ((tblIntakeZOB INNER JOIN tblIntakeType ON tblIntakeZOB.IntakeTypeID = tblIntakeType.IntakeTypeID) INNER JOIN tblDataSource ON tblIntakeZOB.DataSourceID = tblDataSource.DataSourceID) INNER JOIN tblEstimator ON tblIntakeZOB.EstimatorID = tblEstimator.EstimatorID WHERE tblIntakeZOB.ScenarioID = %1").arg(sid);
 }
 
 void ws_intake::ActiveReport_ReportStart()
@@ -37,7 +37,7 @@ void ws_intake::ActiveReport_ReportStart()
     setText(QStringLiteral("lbl3"), QStringLiteral("Correction Factor:  This is used to convert the Base Intake Rate to a Free Living Intake Rate."));
     setText(QStringLiteral("lbl4"), QStringLiteral("The units of kcal/day for food represent assimilated kcal/day."));
     recordSource.clear();
-    const qint32 sid = subject().toInt();
+    const qint32 sid = this->sid();
     guarded(m_session, {ErrForm::Qualified, QStringLiteral("ws_Intake.ActiveReport_ReportStart")}, [&] {
         float weight = 0;
         fillHeads(sid, weight);
@@ -64,7 +64,7 @@ void ws_intake::fillHeads(qint32 sid, float &weight)
     rs->Close();
     // What follows uses the weight as printed, to one decimal.
     weight = w.isEmpty() ? 0.0f : vb::CSng(w);
-    recordSource = QStringLiteral("SELECT tblIntakeZOB.ScenarioID, tblIntakeType.Description AS IntakeType, tblIntakeZOB.Units, tblIntakeZOB.BaseRate, tblIntakeZOB.AdjustedRate, tblIntakeZOB.Derivation, tblIntakeZOB.Measured_CF, tblDataSource.Description AS DataSource, tblIntakeZOB.Comments, tblEstimator.Description AS Estimator FROM ((tblIntakeZOB INNER JOIN tblIntakeType ON tblIntakeZOB.IntakeTypeID = tblIntakeType.IntakeTypeID) INNER JOIN tblDataSource ON tblIntakeZOB.DataSourceID = tblDataSource.DataSourceID) INNER JOIN tblEstimator ON tblIntakeZOB.EstimatorID = tblEstimator.EstimatorID WHERE tblIntakeZOB.ScenarioID = %1").arg(sid);
+    recordSource = intakeRatesSql(sid);
 }
 
 void ws_intake::fillEquations(qint32 sid, float weight)

@@ -215,3 +215,68 @@ TEST_F(ReportEngine, PdfHoldsThePagesAndTheirTexts)
     EXPECT_TRUE(text.contains(QLatin1String("Animal 80")));
     EXPECT_TRUE(text.contains(QLatin1String("Group total")));
 }
+
+namespace {
+//! One owner row whose sub-report lists every other scenario as a block of three lines under a
+//! head that repeats on each page the list runs onto. The heading above leaves room on the first
+//! page for the head but not for a block.
+class LongSubReport : public ActiveReport {
+public:
+    explicit LongSubReport(Session &s) : ActiveReport(s, QStringLiteral("LongSub"))
+    {
+        recordSource = QStringLiteral("SELECT * FROM tblScenario WHERE Scenario_Identifier_1 = 'Owner'");
+        pageHeader.items << label({}, QStringLiteral("Page head"), 0, 0, 200);
+        pageHeader.height = 16;
+        reportHeader.items << label({}, QStringLiteral("Tall heading"), 0, 0, 200);
+        reportHeader.height = 700;
+        ReportItem sub = label(QStringLiteral("srpt"), {}, 0, 0, 400, 0);
+        sub.kind = ItemKind::SubReport;
+        sub.subReport = [&s](const ReportData &, int) {
+            auto child = std::make_unique<ActiveReport>(s, QStringLiteral("Blocks"));
+            child->recordSource = QStringLiteral("SELECT * FROM tblScenario WHERE Scenario_Identifier_1 <> 'Owner' ORDER BY ScenarioID");
+            child->groupHeader.repeat = true;
+            child->groupHeader.items << label({}, QStringLiteral("Block head"), 0, 0, 200);
+            child->groupHeader.height = 16;
+            for (int line = 0; line < 3; ++line)
+                child->detail.items << field({}, QStringLiteral("Scenario_Identifier_1"), 0, 14.0 * line, 200);
+            child->detail.height = 44;
+            return child;
+        };
+        reportFooter.items << sub;
+        ReportItem page = label({}, QStringLiteral("Page %1 of %2"), 0, 0, 200);
+        page.kind = ItemKind::PageNumber;
+        pageFooter.items << page;
+        pageFooter.height = 14;
+    }
+};
+}  // namespace
+
+TEST_F(ReportEngine, SubReportRunsOverPagesBlockByBlockWithItsHeadRepeated)
+{
+    addScenario(QStringLiteral("Wildlife"), QStringLiteral("Owner"));
+    for (int i = 1; i <= 40; ++i)
+        addScenario(QStringLiteral("Wildlife"), QStringLiteral("Item %1").arg(i));
+    LongSubReport r(ts.session());
+    ReportLayout layout;
+    const QList<ReportPage> pages = layout.layout(r);
+    ASSERT_GE(pages.size(), 3);
+    expectInsideMargins(pages, layout.paper());
+    // The head goes with the first block to the next page rather than stand alone.
+    EXPECT_EQ(lines(pages[0]), (QStringList{QStringLiteral("Page head"), QStringLiteral("Tall heading"),
+                                            QStringLiteral("Page 1 of %1").arg(pages.size())}));
+    int blocks = 0;
+    for (int p = 1; p < pages.size(); ++p) {
+        const QStringList l = lines(pages[p]);
+        EXPECT_EQ(l.first(), QStringLiteral("Page head"));
+        EXPECT_EQ(l.last(), QStringLiteral("Page %1 of %2").arg(p + 1).arg(pages.size()));
+        // The head on every page the list reaches, and each block's three lines on one page.
+        EXPECT_EQ(l[1], QStringLiteral("Block head")) << "page " << p + 1;
+        EXPECT_EQ(l.count(QStringLiteral("Block head")), 1) << "page " << p + 1;
+        for (int i = 1; i <= 40; ++i) {
+            const int n = int(l.count(QStringLiteral("Item %1").arg(i)));
+            EXPECT_TRUE(n == 0 || n == 3) << "Item " << i << " split on page " << p + 1;
+            blocks += n / 3;
+        }
+    }
+    EXPECT_EQ(blocks, 40);
+}

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QHash>
 #include <QString>
 
 //! A report shown in its preview window: what scripts read of it and how they save it.
@@ -13,3 +14,14 @@ public:
     //! Writes the report as a PDF file; false when the file cannot be written.
     virtual bool exportPdf(const QString &path) = 0;
 };
+
+//! What a report is about: the open scenario or the open project.
+enum class ReportSubject { Scenario, Project };
+
+//! The report designs of the program by name, with their subject; each design adds itself when its
+//! preview window registers.
+inline QHash<QString, ReportSubject> &reportCatalogue()
+{
+    static QHash<QString, ReportSubject> catalogue;
+    return catalogue;
+}
