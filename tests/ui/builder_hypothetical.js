@@ -182,7 +182,7 @@ test('closing saves, returns to the project, and the scenario reopens from it as
     expect(w.control('txtDietHabitat').text).toBe("Farmer's marsh");
     expect(w.control('txtNotes(0)').text).toBe('Marsh rats are a guess');
     expect(w.control('txtNotes(8)').text).toBe("Rats of the lower marsh, o'er the dike");
-    expect(w.control('LbLDataSource(0)').text).toBe('Data Source: Typed in scenario builder  ');
+    expect(w.control('LbLDataSource(0)').text).toBe('Data Source: User entered  ');
     expect(session.scenario.Species_DataSource).toBe(2);
     expect(ui.cursor()).toBe('default');
 });
