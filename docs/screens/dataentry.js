@@ -1,6 +1,7 @@
 // Pictures of the data entry windows, written into the program folder (--home) as dataentry-*.png: each
 // entry window on a record of the seeded data (a vetted one locked, a user's one open), the measurement
-// window, the diet item window, the allometric equation window and every page of the species workbook.
+// window, the diet item window, the allometric equation window, every page of the species workbook and
+// the descriptors.
 // Run it on a full-size virtual screen, once at normal size and once with QT_SCALE_FACTOR=1.5 and the
 // suffix "-150" (a first line `const SCREEN_SUFFIX = '-150';` put before this script):
 //   xvfb-run -a -s "-screen 0 1920x1080x24" zobrel --home DIR --user ann --script dataentry.js --quit-after-script
@@ -49,3 +50,7 @@ for (let i = 0; i < 4; ++i) {
     }
 }
 sp.close();
+db.exec("Insert Into tblDescriptor (fldDescriptor, fldUnits) Values ('Body length', 'mm')");
+pickers.open('frmDE_Descriptor', { filter: false });
+shot(ui.window('frmDE_Descriptor'), 'frmDE_Descriptor');
+ui.window('frmDE_Descriptor').close();

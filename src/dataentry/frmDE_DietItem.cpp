@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "frmDE_DietItem.h"
 
+#include "ControlEvents.h"
 #include "ControlValue.h"
 #include "DataControl.h"
 #include "Diagnostics.h"
@@ -77,6 +78,15 @@ frmDE_DietItem::frmDE_DietItem(Session &session, QtWindowHost &host)
     m_txtDI[4] = proportions.textBox(QStringLiteral("txtDI"), 4, QStringLiteral("In dry weight"));
     for (int i : {3, 4, 5, 6})
         FormBuilder::userTyped(m_txtDI[i]);
+    // A double click on a box shows its text large, to read or to edit.
+    for (QWidget *box : m_txtDI)
+        if (box)
+            connect(ControlEvents::of(box), &ControlEvents::DblClick, this, [this, box] {
+                runCommand(QStringLiteral("txtDI_DblClick"), [this, box] {
+                    if (auto *zoom = this->host().link<TextZoom>(QStringLiteral("frmZoom")))
+                        zoom->ZoomText(box, QStringLiteral("Modify Text"), ControlValue::locked(box));
+                });
+            });
     m_dc = b.hiddenData(QStringLiteral("dcDietItems"));
     connect(m_dc, &DataControl::Reposition, this, [this] { runCommand(QStringLiteral("dcDietItems_Reposition"), [this] { fillTexts(); }); });
     b.stretch();

@@ -112,6 +112,14 @@ void frmDE_Species::connectCommands()
         if (code == 46)
             command(QStringLiteral("ssGrdDietItems_KeyDown"), [this] { deleteDietItem(); });
     });
+    // A double click on a text shows it large; on a locked page for reading only.
+    for (QWidget *memo : std::as_const(m_pages->memos))
+        connect(ControlEvents::of(memo), &ControlEvents::DblClick, this, [this, memo] {
+            command(QStringLiteral("txtRef_DblClick"), [this, memo] {
+                if (auto *zoom = host().link<TextZoom>(QStringLiteral("frmZoom")))
+                    zoom->ZoomText(memo, QStringLiteral("Text Editor"), ControlValue::locked(memo));
+            });
+        });
     connect(m_pages->ssGridMeasurement, &DataGrid::DblClick, this, [this] { command(QStringLiteral("cmdEdit_Click"), [this] { editCommand(0); }); });
 }
 

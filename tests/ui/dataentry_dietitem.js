@@ -32,10 +32,17 @@ test('a reference item: texts of its assignments, proportions to three decimals,
     w.control('txtDI(3)').setText('.25');
     w.control('txtDI(4)').setText('');
     w.control('txtDI(6)').setText("Shrew's prey");
+    w.control('txtDI(5)').dblClick();
+    const zoom = ui.window('frmZoom');
+    expect(zoom.caption).toBe('Modify Text');
+    zoom.control('txtZoom').setText('Seen in June');
+    zoom.toolbar().click('OK');
+    expect(w.control('txtDI(5)').text).toBe('Seen in June');
     w.toolbar().click('Save');
     expect(ui.windows()).not.toContain('frmDE_DietItem');
     const after = item('tblDietItem', ref.DietItemID);
-    expect([after.Name, after.Wet_Proportion, after.Dry_Proportion, after.DataSourceID]).toEqual(["Shrew's prey", 0.25, null, ref.DataSourceID]);
+    expect([after.Name, after.Comments, after.Wet_Proportion, after.Dry_Proportion, after.DataSourceID])
+        .toEqual(["Shrew's prey", 'Seen in June', 0.25, null, ref.DataSourceID]);
 });
 
 test('a new reference item while a scenario is open: a row of the diet, no scenario column needed', () => {
