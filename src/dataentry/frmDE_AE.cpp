@@ -15,7 +15,8 @@ EntryProfile entryProfile()
 }
 }  // namespace
 
-frmDE_AE::frmDE_AE(Session &session, QtWindowHost &host) : EntryWindow(session, host, QStringLiteral("frmDE_AE"), entryProfile())
+frmDE_AE::frmDE_AE(Session &session, QtWindowHost &host)
+    : EntryWindow(session, host, QStringLiteral("frmDE_AE"), entryProfile())
 {
     FormBuilder consumer = body().frame(QStringLiteral("fraAE_Predator"), QStringLiteral("Consumer Classification")).fields(2);
     textField(consumer, QStringLiteral("txtConsumerName"), QStringLiteral("Consumer:"), QStringLiteral("ConsumerName"));

@@ -17,7 +17,8 @@ EntryProfile entryProfile()
 }
 }  // namespace
 
-frmDE_GE::frmDE_GE(Session &session, QtWindowHost &host) : EntryWindow(session, host, QStringLiteral("frmDE_GE"), entryProfile())
+frmDE_GE::frmDE_GE(Session &session, QtWindowHost &host)
+    : EntryWindow(session, host, QStringLiteral("frmDE_GE"), entryProfile())
 {
     FormBuilder item = body().frame(QStringLiteral("fraGE"), QStringLiteral("Food Item")).fields(2);
     textField(item, QStringLiteral("txtItem"), QStringLiteral("Item:"), QStringLiteral("Item"));

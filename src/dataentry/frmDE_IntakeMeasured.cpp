@@ -18,7 +18,8 @@ EntryProfile entryProfile()
 }
 }  // namespace
 
-frmDE_IntakeMeasured::frmDE_IntakeMeasured(Session &session, QtWindowHost &host) : EntryWindow(session, host, QStringLiteral("frmDE_IntakeMeasured"), entryProfile())
+frmDE_IntakeMeasured::frmDE_IntakeMeasured(Session &session, QtWindowHost &host)
+    : EntryWindow(session, host, QStringLiteral("frmDE_IntakeMeasured"), entryProfile())
 {
     FormBuilder what = body().frame(QStringLiteral("fraIntake"), QStringLiteral("Intake")).fields(2);
     listField(what, QStringLiteral("cboIntakeType"), QStringLiteral("Intake Type:"), QStringLiteral("IntakeTypeID"), Lookups::intakeType());

@@ -15,7 +15,8 @@ EntryProfile entryProfile()
 }
 }  // namespace
 
-frmDE_Reference::frmDE_Reference(Session &session, QtWindowHost &host) : EntryWindow(session, host, QStringLiteral("frmDE_Reference"), entryProfile())
+frmDE_Reference::frmDE_Reference(Session &session, QtWindowHost &host)
+    : EntryWindow(session, host, QStringLiteral("frmDE_Reference"), entryProfile())
 {
     FormBuilder f = body().frame(QStringLiteral("fraReference"), QStringLiteral("Reference")).fields();
     textField(f, QStringLiteral("txtAuthor"), QStringLiteral("Author:"), QStringLiteral("fldRef_Author"));

@@ -16,7 +16,8 @@ EntryProfile entryProfile()
 }
 }  // namespace
 
-frmDE_SoilIngestion::frmDE_SoilIngestion(Session &session, QtWindowHost &host) : EntryWindow(session, host, QStringLiteral("frmDE_SoilIngestion"), entryProfile())
+frmDE_SoilIngestion::frmDE_SoilIngestion(Session &session, QtWindowHost &host)
+    : EntryWindow(session, host, QStringLiteral("frmDE_SoilIngestion"), entryProfile())
 {
     FormBuilder who = body().frame(QStringLiteral("fraSpecies"), QStringLiteral("Species")).fields(2);
     listField(who, QStringLiteral("cboTaxon"), QStringLiteral("Taxon:"), QStringLiteral("TaxonID"), Lookups::taxon());

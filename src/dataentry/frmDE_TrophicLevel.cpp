@@ -16,7 +16,8 @@ EntryProfile entryProfile()
 }
 }  // namespace
 
-frmDE_TrophicLevel::frmDE_TrophicLevel(Session &session, QtWindowHost &host) : EntryWindow(session, host, QStringLiteral("frmDE_TrophicLevel"), entryProfile())
+frmDE_TrophicLevel::frmDE_TrophicLevel(Session &session, QtWindowHost &host)
+    : EntryWindow(session, host, QStringLiteral("frmDE_TrophicLevel"), entryProfile())
 {
     FormBuilder item = body().frame(QStringLiteral("fraTrophicLevel"), QStringLiteral("Trophic Level")).fields(2);
     textField(item, QStringLiteral("txtItem"), QStringLiteral("Item:"), QStringLiteral("Item"));

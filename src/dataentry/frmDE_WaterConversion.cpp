@@ -16,7 +16,8 @@ EntryProfile entryProfile()
 }
 }  // namespace
 
-frmDE_WaterConversion::frmDE_WaterConversion(Session &session, QtWindowHost &host) : EntryWindow(session, host, QStringLiteral("frmDE_WaterConversion"), entryProfile())
+frmDE_WaterConversion::frmDE_WaterConversion(Session &session, QtWindowHost &host)
+    : EntryWindow(session, host, QStringLiteral("frmDE_WaterConversion"), entryProfile())
 {
     FormBuilder frame = body().frame(QStringLiteral("fraWaterConversion"), QStringLiteral("All Data must be Classified"));
     FormBuilder item = frame.fields(2);

@@ -19,7 +19,8 @@ EntryProfile entryProfile()
 }
 }  // namespace
 
-frmDE_Weight::frmDE_Weight(Session &session, QtWindowHost &host) : EntryWindow(session, host, QStringLiteral("frmDE_Weight"), entryProfile())
+frmDE_Weight::frmDE_Weight(Session &session, QtWindowHost &host)
+    : EntryWindow(session, host, QStringLiteral("frmDE_Weight"), entryProfile())
 {
     FormBuilder stats = body().frame(QStringLiteral("fraMeasurement"), QStringLiteral("Measurement")).fields(2);
     textField(stats, QStringLiteral("txtMean"), QStringLiteral("Mean (g):"), QStringLiteral("Mean"));
