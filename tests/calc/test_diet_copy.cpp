@@ -274,14 +274,8 @@ TEST_F(DietCopyTest, NewItemRowsInTheReferenceAndInTheScenario)
     EXPECT_EQ(item.AddNew(QStringLiteral("tblDietItem"), 3), 42);
 }
 
-TEST(clsDietItem, ClassificationAndDateNumber)
+TEST(clsDietItem, DateNumber)
 {
-    TestSession t(false);
-    clsDietItem item(t.session());
-    item.UpdateDietItemClass({1, 2, 3, 4, 5, 6});
-    EXPECT_EQ((std::vector<qint32>{item.KingdomID, item.SubkingdomID, item.PhylumID, item.ClassID, item.OrderID,
-                                   item.FamilyID}),
-              (std::vector<qint32>{1, 2, 3, 4, 5, 6}));
     EXPECT_EQ(clsDietItem::GetDID(QDateTime(QDate(2024, 12, 31), QTime(23, 59, 58))), 1231235958);
     EXPECT_EQ(clsDietItem::GetDID(QDateTime(QDate(2024, 1, 2), QTime(3, 4, 5))), 102030405);
 }
