@@ -2,12 +2,9 @@
 // The built default database: the fixed ids the code relies on, the integrity of every reference
 // between tables, and the diets and equations the calculations rest on.
 // Reads the database with the SQLite C API, independently of the recordset layer.
-#include "DataFolder.h"
-
 #include <gtest/gtest.h>
 
 #include <QDir>
-#include <QDirIterator>
 #include <QFile>
 #include <QProcess>
 #include <QSet>
@@ -429,47 +426,6 @@ TEST(SeedTool, FailsWithAMessageAndLeavesNoFile)
     EXPECT_TRUE(errors.contains("tblGender.csv") && errors.contains("Colour")) << errors.toStdString();
     EXPECT_FALSE(QFile::exists(dir.filePath("out.sqlite")));
     EXPECT_NE(runSeedTool({dir.filePath("seed")}), 0);
-}
-TEST(SeedTool, ARebuildWithAChangedSeedLeavesTheUsersRowsInPlace)
-{
-    QTemporaryDir dir;
-    // The build writes the template; the first start copies it into the user's data folder.
-    const QString tmpl = dir.filePath("share/zobrel/ZOB.sqlite");
-    QDir().mkpath(dir.filePath("share/zobrel"));
-    ASSERT_EQ(runSeedTool({QStringLiteral(ZOB_SOURCE_DIR "/data/seed"), tmpl}), 0);
-    const QString home = dir.filePath("data/Zobrel");
-    const QString userDb = home + "/ZOB.sqlite";
-    ASSERT_EQ(DataFolder::prepare(home, "ZOB.sqlite", tmpl), DataFolder::Outcome::Created);
-    {
-        sqlite3 *raw = nullptr;
-        ASSERT_EQ(sqlite3_open_v2(userDb.toUtf8().constData(), &raw, SQLITE_OPEN_READWRITE, nullptr), SQLITE_OK);
-        const Db db(raw);
-        ASSERT_EQ(sqlite3_exec(db.get(), "INSERT INTO tblUser (User) VALUES ('ann');"
-                                         "INSERT INTO tblProject (Name) VALUES ('Heron Marsh')", nullptr, nullptr, nullptr),
-                  SQLITE_OK) << sqlite3_errmsg(db.get());
-    }
-
-    // A pull brings a changed seed file; the rebuild writes the template again.
-    const QString seed = dir.filePath("seed");
-    QDir().mkpath(seed);
-    QDirIterator it(QStringLiteral(ZOB_SOURCE_DIR "/data/seed"), {"*.csv"}, QDir::Files);
-    while (it.hasNext()) {
-        it.next();
-        ASSERT_TRUE(QFile::copy(it.filePath(), seed + "/" + it.fileName()));
-    }
-    QFile status(seed + "/tblStatus.csv");
-    ASSERT_TRUE(status.open(QIODevice::Append));
-    status.write("3,Released\n");
-    status.close();
-    ASSERT_EQ(runSeedTool({seed, tmpl}), 0);
-    EXPECT_EQ(scalar(openReadOnly(tmpl).get(), "SELECT Description FROM tblStatus WHERE StatusID = 3"), "Released");
-
-    // The next start finds the user's database and keeps it as it was.
-    EXPECT_EQ(DataFolder::prepare(home, "ZOB.sqlite", tmpl), DataFolder::Outcome::Existing);
-    const Db user = openReadOnly(userDb);
-    EXPECT_EQ(scalar(user.get(), "SELECT count(*) FROM tblUser WHERE User = 'ann'"), "1");
-    EXPECT_EQ(scalar(user.get(), "SELECT count(*) FROM tblProject WHERE Name = 'Heron Marsh'"), "1");
-    EXPECT_EQ(scalar(user.get(), "SELECT count(*) FROM tblStatus WHERE StatusID = 3"), "0");
 }
 
 TEST(ScaleTool, MakesEveryTableLargerWithValidLinksFromASeedNumber)
