@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "TestSupport.h"
 #include "VbError.h"
 #include "VbFormat.h"
 
@@ -8,7 +9,6 @@
 #include <QVariant>
 
 #include <cfloat>
-#include <functional>
 
 using namespace vb;
 
@@ -216,16 +216,6 @@ TEST(VbText, CStrOfOtherVariants)
     }
 }
 
-int errorOf(const std::function<void()> &f)
-{
-    try {
-        f();
-    } catch (const VbError &e) {
-        return e.number();
-    }
-    return 0;
-}
-
 TEST(VbConvert, CSngAndCDblReadText)
 {
     const std::pair<const char *, double> cases[] = {
@@ -251,17 +241,17 @@ TEST(VbConvert, ConversionErrors)
                                 "&HG", "1.5,0", ",5", "(5", "--5", "5-5", "inf", "nan", "0x10"};
     for (const char *text : notNumbers) {
         const QVariant v(QString::fromLatin1(text));
-        EXPECT_EQ(errorOf([&] { CSng(v); }), VbErr::TypeMismatch) << text;
-        EXPECT_EQ(errorOf([&] { CDbl(v); }), VbErr::TypeMismatch) << text;
+        EXPECT_EQ(errorNumber([&] { CSng(v); }), VbErr::TypeMismatch) << text;
+        EXPECT_EQ(errorNumber([&] { CDbl(v); }), VbErr::TypeMismatch) << text;
         EXPECT_FALSE(IsNumeric(v)) << text;
     }
-    EXPECT_EQ(errorOf([] { CSng(QVariant()); }), VbErr::InvalidUseOfNull);
-    EXPECT_EQ(errorOf([] { CDbl(QVariant(QMetaType::fromType<float>())); }), VbErr::InvalidUseOfNull);
-    EXPECT_EQ(errorOf([] { CLng(QVariant()); }), VbErr::InvalidUseOfNull);
-    EXPECT_EQ(errorOf([] { CSng(QVariant(1e39)); }), VbErr::Overflow);
-    EXPECT_EQ(errorOf([] { CSng(QVariant(QStringLiteral("1e39"))); }), VbErr::Overflow);
-    EXPECT_EQ(errorOf([] { CDbl(QVariant(QStringLiteral("1e309"))); }), VbErr::Overflow);
-    EXPECT_EQ(errorOf([] { CDbl(QVariant(QStringLiteral("&H123456789"))); }), VbErr::Overflow);
+    EXPECT_EQ(errorNumber([] { CSng(QVariant()); }), VbErr::InvalidUseOfNull);
+    EXPECT_EQ(errorNumber([] { CDbl(QVariant(QMetaType::fromType<float>())); }), VbErr::InvalidUseOfNull);
+    EXPECT_EQ(errorNumber([] { CLng(QVariant()); }), VbErr::InvalidUseOfNull);
+    EXPECT_EQ(errorNumber([] { CSng(QVariant(1e39)); }), VbErr::Overflow);
+    EXPECT_EQ(errorNumber([] { CSng(QVariant(QStringLiteral("1e39"))); }), VbErr::Overflow);
+    EXPECT_EQ(errorNumber([] { CDbl(QVariant(QStringLiteral("1e309"))); }), VbErr::Overflow);
+    EXPECT_EQ(errorNumber([] { CDbl(QVariant(QStringLiteral("&H123456789"))); }), VbErr::Overflow);
     EXPECT_FALSE(IsNumeric(QVariant()));
     EXPECT_FALSE(IsNumeric(QVariant(QDate(2026, 1, 1))));
     EXPECT_TRUE(IsNumeric(QVariant(2.5f)));
@@ -290,11 +280,11 @@ TEST(VbConvert, IntegersRoundHalfToEven)
     EXPECT_EQ(CInt(QVariant(true)), -1);
     EXPECT_EQ(CInt(QVariant(32767.4)), 32767);
     EXPECT_EQ(CInt(QVariant(-32768.5)), -32768);
-    EXPECT_EQ(errorOf([] { CInt(QVariant(32767.5)); }), VbErr::Overflow);
-    EXPECT_EQ(errorOf([] { CInt(QVariant(-32769)); }), VbErr::Overflow);
+    EXPECT_EQ(errorNumber([] { CInt(QVariant(32767.5)); }), VbErr::Overflow);
+    EXPECT_EQ(errorNumber([] { CInt(QVariant(-32769)); }), VbErr::Overflow);
     EXPECT_EQ(CLng(QVariant(2147483647.4)), 2147483647);
-    EXPECT_EQ(errorOf([] { CLng(QVariant(2147483647.5)); }), VbErr::Overflow);
-    EXPECT_EQ(errorOf([] { CLng(QVariant(QStringLiteral("x"))); }), VbErr::TypeMismatch);
+    EXPECT_EQ(errorNumber([] { CLng(QVariant(2147483647.5)); }), VbErr::Overflow);
+    EXPECT_EQ(errorNumber([] { CLng(QVariant(QStringLiteral("x"))); }), VbErr::TypeMismatch);
 }
 
 TEST(VbConvert, ValReadsTheLeadingNumber)
@@ -308,7 +298,7 @@ TEST(VbConvert, ValReadsTheLeadingNumber)
     };
     for (const auto &[text, expected] : cases)
         EXPECT_DOUBLE_EQ(Val(QString::fromLatin1(text)), expected) << text;
-    EXPECT_EQ(errorOf([] { Val(QStringLiteral("1e400")); }), VbErr::Overflow);
+    EXPECT_EQ(errorNumber([] { Val(QStringLiteral("1e400")); }), VbErr::Overflow);
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The Jet-to-SQLite translator, checked by running its output against a real in-memory database.
 #include "JetSql.h"
+#include "TestSupport.h"
 #include "VbError.h"
 
 #include <gtest/gtest.h>
@@ -145,15 +146,7 @@ protected:
     sqlite3 *m_db = nullptr;
 };
 
-int errorNumberOf(const QString &jet)
-{
-    try {
-        translateJetSql(jet);
-    } catch (const VbError &e) {
-        return e.number();
-    }
-    return 0;
-}
+int errorNumberOf(const QString &jet) { return errorNumber([&] { translateJetSql(jet); }); }
 
 // ---------------------------------------------------------------------------------------------
 // Text of the translation, where the exact form matters to the rest of the store.
