@@ -2,6 +2,8 @@
 // The built default database: the fixed ids the code relies on, the integrity of every reference
 // between tables, and the diets and equations the calculations rest on.
 // Reads the database with the SQLite C API, independently of the recordset layer.
+#include "SchemaDb.h"
+
 #include <gtest/gtest.h>
 
 #include <QDir>
@@ -14,14 +16,8 @@
 #include <sqlite3.h>
 
 #include <cmath>
-#include <memory>
 
 namespace {
-
-struct Closer {
-    void operator()(sqlite3 *db) const { sqlite3_close(db); }
-};
-using Db = std::unique_ptr<sqlite3, Closer>;
 
 Db openReadOnly(const QString &path)
 {
@@ -53,12 +49,6 @@ QList<Row> rows(sqlite3 *db, const QString &sql)
     }
     sqlite3_finalize(stmt);
     return out;
-}
-
-QString scalar(sqlite3 *db, const QString &sql)
-{
-    const auto r = rows(db, sql);
-    return r.isEmpty() ? QStringLiteral("<none>") : r.first().value(0);
 }
 
 double number(sqlite3 *db, const QString &sql)
