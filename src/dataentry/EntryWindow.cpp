@@ -195,9 +195,7 @@ void EntryWindow::LoadData()
         m_dc->Refresh();
         // Where the statement binds several rows, the record asked for is shown first.
         if (recordRequest().keyField.compare(m_profile.key, Qt::CaseInsensitive) == 0 && m_dc->rowCount() > 1)
-            for (int row = 0; row < m_dc->rowCount(); ++row)
-                if (vb::CLng(m_dc->value(row, m_profile.key)) == id)
-                    m_dc->moveTo(row);
+            m_record->moveToId(id);
         showRow();
         traceSuccess(session(), info);
     });

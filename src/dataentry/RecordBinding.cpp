@@ -53,6 +53,16 @@ void RecordBinding::fillLookups()
         fillCombo(l.combo, *m_session.gDB, l.sql, l.listField, l.boundColumn);
 }
 
+bool RecordBinding::moveToId(qint32 id)
+{
+    for (int row = 0; row < m_dc->rowCount(); ++row)
+        if (vb::CLng(m_dc->value(row, m_key)) == id) {
+            m_dc->moveTo(row);
+            return true;
+        }
+    return false;
+}
+
 qint32 RecordBinding::currentId() const
 {
     const QVariant v = currentValue(m_key);

@@ -48,6 +48,8 @@ public:
     void setLocked(bool locked);
     bool locked() const { return m_locked; }
 
+    //! Makes the row whose key is id current; false (nothing moved) when there is none.
+    bool moveToId(qint32 id);
     //! The key of the current row, 0 when there is none.
     qint32 currentId() const;
     //! A column of the current row as the data control read it; null when there is no row or column.

@@ -9,7 +9,6 @@
 #include "Recordset.h"
 #include "Session.h"
 #include "Utilities.h"
-#include "VbFormat.h"
 
 #include <QLineEdit>
 #include <QPushButton>
@@ -110,8 +109,6 @@ void frmDE_Descriptor::reload(qint32 id)
 {
     m_record->setLocked(true);  // nothing typed is written by the reading again
     m_dc->Refresh();
-    for (int row = 0; row < m_dc->rowCount(); ++row)
-        if (vb::CLng(m_dc->value(row, QStringLiteral("DescriptorID"))) == id)
-            m_dc->moveTo(row);
+    m_record->moveToId(id);
     m_record->showRow();
 }

@@ -256,10 +256,7 @@ void frmDE_Species::addRow(int page)
         loadWeights();
     else
         LoadDiet();
-    DataControl *dc = m_pages->records[page]->dataControl();
-    for (int row = 0; row < dc->rowCount(); ++row)
-        if (vb::CLng(dc->value(row, key)) == id)
-            dc->moveTo(row);
+    m_pages->records[page]->moveToId(id);
     SetPageLock(page);
 }
 
@@ -378,11 +375,8 @@ void frmDE_Species::referenceCommand(int index)
         w->setRecord(request);
         host().show(QStringLiteral("frmSelect_Reference"), true);
     }
-    DataControl *dc = r->dataControl();
-    dc->Refresh();
-    for (int row = 0; row < dc->rowCount(); ++row)
-        if (vb::CLng(dc->value(row, r->key())) == id)
-            dc->moveTo(row);
+    r->dataControl()->Refresh();
+    r->moveToId(id);
 }
 
 void frmDE_Species::deleteDietItem()

@@ -3,7 +3,6 @@
 
 #include "Lookups.h"
 #include "QtWindowHost.h"
-#include "DataControl.h"
 #include "Session.h"
 #include "VbFormat.h"
 
@@ -65,8 +64,5 @@ void frmDE_Weight::newRecord()
         return;
     }
     LoadData();
-    DataControl *dc = dataControl();
-    for (int row = 0; row < dc->rowCount(); ++row)
-        if (vb::CLng(dc->value(row, profile().key)) == id)
-            dc->moveTo(row);
+    record()->moveToId(id);
 }
