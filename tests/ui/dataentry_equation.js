@@ -1,6 +1,7 @@
 // The allometric equation window: a vetted equation, and any in mode "Read", opens locked without New
 // or Save; a new equation has no species group until one is typed, which is made at once; the intake
-// type sets the units of the result; the equation's numbers must be numbers for Save.
+// type sets the units of the result; the equation's numbers must be numbers for Save; with a reference it is
+// then used for a scenario's air intake.
 
 const model = id => db.query('Select * From tblIntakeModel Where IntakeModelID = ' + id)[0];
 function open(id, mode) {
@@ -54,10 +55,42 @@ test('a new equation: the species group typed is made at once, the type sets the
     expect(model(id).IntakeTypeID).toBe(null);
     for (const [box, value] of [['txt_a', '0.5'], ['txt_b', '0.75'], ['txtMMF', '1'], ['txtUCF', '1']])
         w.control(box).setText(value);
+    w.control('cboAllometricEqn(0)').select('Birds');
+    w.control('cboWtUnits').select('g');
+    // A reference through the picker: the equation lists only with one.
+    w.control('cmdReference').click();
+    const picker = ui.window('frmSelect_Reference');
+    const reference = Number(picker.control('ssCmbSearch').cell(0, 0));
+    picker.control('ssCmbSearch').selectRow(0);
+    picker.toolbar().click('Select');
+    expect(model(id).ReferenceID).toBe(reference);
     w.toolbar().click('Save');
     const row = model(id);
     expect([row.a, row.b, row.IntakeTypeID, row.FinalUnitsID, row.DataSourceID]).toEqual([0.5, 0.75, 1, 1, null]);
     expect(w.control('txtEquation').text).not.toBe('');
     w.toolbar().click('Close');
     expect(ui.windows()).not.toContain('frmDE_IntakeModel');
+});
+
+test("the new equation used for a scenario's air intake", () => {
+    const id = top();
+    const group = model(id).CategoryID, taxon = model(id).TaxonID;
+    db.exec("Insert Into tblScenario (Scenario_Type, Scenario_FileName) Values ('Wildlife', 'wren.ZOB')");
+    const sid = db.query('Select Max(ScenarioID) As M From tblScenario')[0].M;
+    const species = db.query('Select SpeciesID From tblSpecies Where TaxonID = ' + taxon)[0].SpeciesID;
+    db.exec('Insert Into tblWildlife (ScenarioID, SpeciesID, Weight) Values (' + sid + ', ' + species + ', 1000)');
+    for (let t = 1; t <= 5; ++t)
+        db.exec('Insert Into tblIntakeZOB (ScenarioID, IntakeTypeID, ZOB_SpeciesID) Values (' + sid + ', ' + t + ', ' + species + ')');
+    session.scenario.SID = sid;
+    session.scenario.SpeciesID = species;
+    session.scenario.Weight = 1000;
+    pickers.open('frmSelect_Intake', { recordId: 0, selectedId: taxon, mode: 'Read' });
+    const w = ui.window('frmSelect_Intake');
+    w.control('cboCategory').select("Wrens' group");
+    expect(w.control('txtEquation').text).toContain('0.5');
+    w.toolbar().click(6);
+    const r = db.query('Select * From tblIntakeZOB Where ScenarioID = ' + sid + ' And IntakeTypeID = 1')[0];
+    expect([r.IntakeModelID, r.CategoryID, r.Derivation]).toEqual([id, group, 'Model']);
+    // 0.5 * 1000 ^ 0.75 with both factors 1.
+    expect(Math.abs(r.BaseRate - 0.5 * Math.pow(1000, 0.75)) < 0.001).toBeTruthy();
 });
