@@ -71,12 +71,7 @@ void BuilderDietPage::buildDiet(FormBuilder &page)
     FormBuilder notes = page.row(1, QStringLiteral("fraDietNotes"));
     m_w.noteBox(notes, 2, QStringLiteral("Diet Comments:"), 5);
     m_w.noteBox(notes, 9, QStringLiteral("Diet Record Notes:"), 5, QStringLiteral("lblDietNotes"));
-    FormBuilder commands = page.row(0, QStringLiteral("fraDietCommands"));
-    m_w.pageButtons(commands, QStringLiteral("cmdSelect"), {
-        {4, QStringLiteral("Select from Database"), [this] { selectFromDatabase(); }},
-        {5, QStringLiteral("Enter Hypothetical Data"), [this] { enterHypothetical(); }}});
-    commands.stretch();
-    m_w.pageButtons(commands, QStringLiteral("cmdMoreInfo"), {{2, QStringLiteral("More Information..."), [this] { m_w.cmdMoreInfo_Click(); }}});
+    m_w.pageCommands(page, 2, [this] { selectFromDatabase(); }, [this] { enterHypothetical(); });
 }
 
 void BuilderDietPage::buildItems(FormBuilder &page)

@@ -45,12 +45,7 @@ BuilderIntakePage::BuilderIntakePage(frmZOB &window, FormBuilder &page) : QObjec
         FormBuilder sub = page.page(m_ssTabIntake, QString::fromLatin1(kTypes[n].page));
         buildType(sub, n);
     }
-    FormBuilder commands = page.row(0, QStringLiteral("fraIntakeCommands"));
-    m_w.pageButtons(commands, QStringLiteral("cmdSelect"), {
-        {6, QStringLiteral("Select from Database..."), [this] { selectFromDatabase(); }},
-        {7, QStringLiteral("Enter Hypothetical Data"), [this] { enterHypothetical(); }}});
-    commands.stretch();
-    m_w.pageButtons(commands, QStringLiteral("cmdMoreInfo"), {{3, QStringLiteral("More Information..."), [this] { m_w.cmdMoreInfo_Click(); }}});
+    m_w.pageCommands(page, 3, [this] { selectFromDatabase(); }, [this] { enterHypothetical(); });
     connect(m_ssTabIntake, &QTabWidget::currentChanged, this, &BuilderIntakePage::subPageChanged);
 }
 

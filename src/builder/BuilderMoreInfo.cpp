@@ -64,34 +64,27 @@ void showMoreInformation(frmZOB &w, int page, int intakePage)
 {
     Session &s = w.session();
     clsScenario &sc = *s.gScenario;
-    switch (page) {
-    case 0:
-        if (refused(s, sc.Species_DataSource, "Species"))
+    if (page >= 0 && page <= 2) {
+        // The record behind the species, weight and diet pages, and the window that shows it.
+        struct PageRecord {
+            qint32 dataSource;
+            qint32 id;
+            const char *what, *window, *keyField, *table;
+        };
+        const PageRecord records[3] = {
+            {sc.Species_DataSource, sc.SpeciesID, "Species", "frmDE_Species", "SpeciesID", "tblSpecies"},
+            {sc.Wt_DataSource, sc.WeightID, "weight", "frmDE_Weight", "WeightID", "tblWeight"},
+            {sc.Diet_DataSource, sc.DietID, "diet", "frmSelect_Diet", "", ""},
+        };
+        const PageRecord &r = records[page];
+        if (refused(s, r.dataSource, r.what))
             return;
-        if (sc.SpeciesID != 0) {
-            w.openWindow(QStringLiteral("frmDE_Species"), readOnly(sc.SpeciesID, QStringLiteral("SpeciesID"), QStringLiteral("tblSpecies")),
-                         false);
-            return;
-        }
-        break;
-    case 1:
-        if (refused(s, sc.Wt_DataSource, "weight"))
-            return;
-        if (sc.WeightID != 0) {
-            w.openWindow(QStringLiteral("frmDE_Weight"), readOnly(sc.WeightID, QStringLiteral("WeightID"), QStringLiteral("tblWeight")),
-                         false);
-            return;
-        }
-        break;
-    case 2:
-        if (refused(s, sc.Diet_DataSource, "diet"))
-            return;
-        if (sc.DietID != 0) {
-            w.openWindow(QStringLiteral("frmSelect_Diet"), readOnly(sc.DietID, {}, {}), false);
+        if (r.id != 0) {
+            w.openWindow(QString::fromLatin1(r.window),
+                         readOnly(r.id, QString::fromLatin1(r.keyField), QString::fromLatin1(r.table)), false);
             return;
         }
-        break;
-    case 3: {
+    } else if (page == 3) {
         arrayItem<QWidget>(&w, QStringLiteral("cmdMoreInfo"), 3)->setVisible(true);
         const QString source = ControlValue::text(arrayItem<QWidget>(&w, QStringLiteral("LbLDataSource"), 3 + intakePage));
         // A typed rate shows the words of data source 2, whatever the database calls that source.
@@ -102,10 +95,6 @@ void showMoreInformation(frmZOB &w, int page, int intakePage)
         }
         if (intakeRecord(w, intakePage))
             return;
-        break;
-    }
-    default:
-        break;
     }
     s.msgBox(kNoRecord, QString(), MsgIcon::Information);
 }

@@ -29,12 +29,7 @@ BuilderSpeciesPage::BuilderSpeciesPage(frmZOB &window, FormBuilder &page, FormBu
     m_cboTaxon->setEditable(true);
     page.label(QStringLiteral("LbLDataSource"), 0, QString());
     m_w.noteBox(page, 0, QStringLiteral("Species Comments:"), 6);
-    FormBuilder commands = page.row(0, QStringLiteral("fraSpeciesCommands"));
-    m_w.pageButtons(commands, QStringLiteral("cmdSelect"), {
-        {0, QStringLiteral("Select from Database"), [this] { selectFromDatabase(); }},
-        {1, QStringLiteral("Enter Hypothetical Data"), [this] { enterHypothetical(); }}});
-    commands.stretch();
-    m_w.pageButtons(commands, QStringLiteral("cmdMoreInfo"), {{0, QStringLiteral("More Information..."), [this] { m_w.cmdMoreInfo_Click(); }}});
+    m_w.pageCommands(page, 0, [this] { selectFromDatabase(); }, [this] { enterHypothetical(); });
     connect(m_txtCommonName, &QLineEdit::textChanged, this, &BuilderSpeciesPage::namesChanged);
     connect(m_txtLatinName, &QLineEdit::textChanged, this, &BuilderSpeciesPage::namesChanged);
     connect(m_cboTaxon, &QComboBox::currentTextChanged, this, &BuilderSpeciesPage::namesChanged);
@@ -109,6 +104,17 @@ void BuilderSpeciesPage::load(qint32 id, qint32 dataSourceId, qint32 previousId)
         for (int i : {0, 1})
             arrayItem<QWidget>(&m_w, QStringLiteral("cmdSelect"), i)->setEnabled(true);
     });
+}
+
+void BuilderSpeciesPage::leave()
+{
+    clsScenario &sc = *m_w.session().gScenario;
+    if (sc.SpeciesHasChanged.toBool()) {
+        m_w.ClearCurrentScenario();
+        sc.SpeciesHasChanged = false;
+    }
+    if ((sc.Species_DataSource == 2 && sc.SpeciesID == 0) || sc.SpeciesID > 0)
+        sc.Save(QStringLiteral("Species"));
 }
 
 bool BuilderSpeciesPage::namesBlank() const

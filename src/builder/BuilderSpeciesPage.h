@@ -23,6 +23,9 @@ public:
     void showNames(const QString &common, const QString &latin, const QString &taxon);
     //! Loads the page for a species (a scenario for data source 2); see frmZOB::loadSpecies.
     void load(qint32 id, qint32 dataSourceId, qint32 previousId);
+    //! Leaving the page: a pending change of species clears the scenario, and a species that is
+    //! hypothetical or from the reference data is saved.
+    void leave();
     //! True when either name is blank (trimmed).
     bool namesBlank() const;
     void focusCommonName();

@@ -30,12 +30,7 @@ BuilderWeightPage::BuilderWeightPage(frmZOB &window, FormBuilder &page) : QObjec
     m_txtWeightEstimator->setReadOnly(true);
     page.label(QStringLiteral("LbLDataSource"), 1, QString());
     m_w.noteBox(page, 1, QStringLiteral("Weight Comments:"), 6);
-    FormBuilder commands = page.row(0, QStringLiteral("fraWeightCommands"));
-    m_w.pageButtons(commands, QStringLiteral("cmdSelect"), {
-        {2, QStringLiteral("Select from Database"), [this] { selectFromDatabase(); }},
-        {3, QStringLiteral("Enter Hypothetical Data"), [this] { enterHypothetical(); }}});
-    commands.stretch();
-    m_w.pageButtons(commands, QStringLiteral("cmdMoreInfo"), {{1, QStringLiteral("More Information..."), [this] { m_w.cmdMoreInfo_Click(); }}});
+    m_w.pageCommands(page, 1, [this] { selectFromDatabase(); }, [this] { enterHypothetical(); });
 }
 
 void BuilderWeightPage::load()

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "frmZOB.h"
 
+#include "BuilderCommands.h"
 #include "BuilderDataSource.h"
 #include "BuilderDietPage.h"
 #include "BuilderIntakePage.h"
@@ -14,7 +15,6 @@
 #include "DataControl.h"
 #include "Diagnostics.h"
 #include "FormBuilder.h"
-#include "MenuTable.h"
 #include "QtWindowHost.h"
 #include "Recordset.h"
 #include "Session.h"
@@ -24,17 +24,13 @@
 #include "clsDietItem.h"
 #include "clsProject.h"
 
-#include <QCoreApplication>
 #include <QLabel>
-#include <QLayout>
-#include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QTabWidget>
 
 namespace {
 const WindowRegistration<frmZOB> reg(QStringLiteral("frmZOB"));
 const QString kReview = QStringLiteral("frmZOBCalculations");
-const QString kReports = QStringLiteral("frmReports");
 //! The help topic set on leaving each page.
 const int kPageTopics[4] = {1002, 1004, 1006, 1015};
 }  // namespace
@@ -44,8 +40,7 @@ frmZOB::frmZOB(Session &session, QtWindowHost &host) : ZobWindow(session, host, 
     setCaption(QStringLiteral("Zobrel - Documentation"));
     HelpContextID = 1002;
     FormBuilder b(this);
-    buildCommands(b);
-    buildMenu();
+    buildBuilderCommands(*this, b);
     FormBuilder header = b.row(0, QStringLiteral("fraHeader"));
     FormBuilder status = header.frame(QStringLiteral("fraStatus"), QStringLiteral("Wildlife Scenario"));
     FormBuilder description = header.column(2, QStringLiteral("fraDescriptionColumn"))
@@ -81,54 +76,6 @@ frmZOB::~frmZOB()
         session().gScenario->notes = nullptr;
 }
 
-void frmZOB::buildCommands(FormBuilder &b)
-{
-    ZobToolbar *tb = buildToolbar(b, {
-        {"New", "Add New", "New", [this] { session().gScenario->AddNew(QStringLiteral("Wildlife")); }},
-        {"Open", "Open a scenario file", "Open", [this] {
-             clsScenario &sc = *session().gScenario;
-             sc.OpenFile(sc.FilePath, sc.FileName, true);
-         }},
-        {"Close", "Close the scenario (it is saved)", "Close", [this] { unloadMe(); }},
-        {"Save", "Save the scenario", "Save", [this] { session().gScenario->Save(QStringLiteral("All")); }},
-        {"Print", "Preview and print the scenario's reports", "Print", [this] { host().show(kReports, true); }},
-        {"Calculations", "Review the calculations of the scenario", "Calculations", [this] { calculations(); }},
-        {"Help", "Help on the page", "Help", [this] { showHelp(); }},
-    });
-    if (!QtWindowHost::isRegistered(kReports)) {
-        tb->button(QStringLiteral("Print"))->setEnabled(false);
-        tb->button(QStringLiteral("Print"))->setToolTip(missingWindowTip(kReports));
-    }
-}
-
-void frmZOB::buildMenu()
-{
-    auto *bar = new QMenuBar(this);
-    layout()->setMenuBar(bar);
-    auto options = [](int i) { return arrayName(QStringLiteral("mnuFileOptions"), i); };
-    auto file = [this](std::function<void()> body) {
-        return [this, body] { runCommand(QStringLiteral("mnuFileOptions_Click"), body); };
-    };
-    addMenu(bar, QStringLiteral("mnuFile"), QStringLiteral("&File"), {
-        {options(0), QStringLiteral("&New"), file([this] { newScenario(true); })},
-        {options(1), QStringLiteral("&Open..."), file([this] {
-             session().gScenario->OpenFile(QStringLiteral("Unknown"), QStringLiteral("unknown"), true);
-         })},
-        {options(2), QStringLiteral("Close"), file([this] { unloadMe(); })},
-        MenuEntry::separatorNamed(options(3)),
-        {options(4), QStringLiteral("&Save..."), file([this] { session().gScenario->Save(QStringLiteral("All")); })},
-        {options(5), QStringLiteral("Save &As...")},  // inert in this window
-        MenuEntry::separatorNamed(options(6)),
-        {options(7), QStringLiteral("&Print")},       // printing goes by the toolbar
-        MenuEntry::separatorNamed(options(8)),
-        // Exit ends the program at once, without saving or asking.
-        {options(9), QStringLiteral("E&xit"), [] { QCoreApplication::exit(0); }},
-    }, QStringLiteral("mnuFileTitle"));
-    QAction *help = bar->addAction(QStringLiteral("Help"));
-    help->setObjectName(QStringLiteral("mnuHelp"));
-    connect(help, &QAction::triggered, this, [this] { showHelp(); });
-}
-
 QPlainTextEdit *frmZOB::noteBox(FormBuilder &b, int index, const QString &caption, int lines, const QString &labelName)
 {
     auto *box = new QPlainTextEdit;
@@ -144,6 +91,18 @@ QPlainTextEdit *frmZOB::noteBox(FormBuilder &b, int index, const QString &captio
     m_notes[index] = box;
     connect(ControlEvents::of(box), &ControlEvents::DblClick, this, [this, index] { zoomNote(index); });
     return box;
+}
+
+void frmZOB::pageCommands(FormBuilder &page, int p, const std::function<void()> &fromDatabase,
+                          const std::function<void()> &hypothetical)
+{
+    FormBuilder commands = page.row(0, arrayName(QStringLiteral("fraCommands"), p));
+    // The intake page's selection opens a dialog of its own kind, hence its "...".
+    commandButtons(commands, QStringLiteral("cmdSelect"), {
+        {2 * p, p == 3 ? QStringLiteral("Select from Database...") : QStringLiteral("Select from Database"), fromDatabase},
+        {2 * p + 1, QStringLiteral("Enter Hypothetical Data"), hypothetical}});
+    commands.stretch();
+    commandButtons(commands, QStringLiteral("cmdMoreInfo"), {{p, QStringLiteral("More Information..."), [this] { cmdMoreInfo_Click(); }}});
 }
 
 void frmZOB::zoomNote(int index)
@@ -266,10 +225,12 @@ void frmZOB::UpdateDietItems() { m_diet->updateItems(); }
 void frmZOB::setDietHead(const DietHeadText &head) { m_diet->setHead(head); }
 void frmZOB::PrS_LoadIntakeControls() { m_intake->load(); }
 
-void frmZOB::PuS_SetTab(int index)
+void frmZOB::PuS_SetTab(int index) { m_ssTabSB->setCurrentIndex(index); }
+
+void frmZOB::showFirstPages()
 {
-    if (index >= 0 && index < m_ssTabSB->count())
-        m_ssTabSB->setCurrentIndex(index);
+    m_intake->setSubPage(0);
+    m_ssTabSB->setCurrentIndex(0);
 }
 
 int frmZOB::currentPage() const { return m_ssTabSB->currentIndex(); }
@@ -315,12 +276,7 @@ void frmZOB::pageLeft(int page)
     HelpContextID = kPageTopics[page];
     switch (page) {
     case 0:
-        if (sc.SpeciesHasChanged.toBool()) {
-            ClearCurrentScenario();
-            sc.SpeciesHasChanged = false;
-        }
-        if ((sc.Species_DataSource == 2 && sc.SpeciesID == 0) || sc.SpeciesID > 0)
-            sc.Save(QStringLiteral("Species"));
+        m_species->leave();
         break;
     case 1:
         // A blank species is caught here, on leaving the weight page.
@@ -342,15 +298,6 @@ void frmZOB::pageLeft(int page)
         if (!m_weight->weightText().isEmpty())
             sc.Weight = vb::CSng(m_weight->weightText());
         break;
-    }
-}
-
-void frmZOB::newScenario(bool firstPage)
-{
-    session().gScenario->AddNew(QStringLiteral("Wildlife"));
-    if (firstPage) {
-        m_intake->setSubPage(0);
-        m_ssTabSB->setCurrentIndex(0);
     }
 }
 
@@ -378,10 +325,7 @@ void frmZOB::calculations()
         host().show(kReview, true);
 }
 
-bool frmZOB::WildlifeDietItemsExist()
-{
-    return anyDietItems(session());
-}
+bool frmZOB::WildlifeDietItemsExist() { return anyDietItems(session()); }
 
 bool frmZOB::ClearCurrentScenario()
 {

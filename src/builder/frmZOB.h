@@ -61,6 +61,11 @@ public:
     //! False, after a message, when no diet item exists at all.
     bool WildlifeDietItemsExist();
 
+    //! "Calculations": saves the species and shows the review of the calculations where the
+    //! scenario has diet items; the press that follows a change of species only clears and saves.
+    void calculations();
+    //! Turns to the species page and the air sub-page.
+    void showFirstPages();
     //! "More Information...": the record behind the page on show, read-only.
     void cmdMoreInfo_Click();
     //! The page of ssTabSB on show.
@@ -76,17 +81,17 @@ public:
     {
         return commandButtons(b, name, buttons);
     }
+    //! The command row of page p: cmdSelect(2p) from the database, cmdSelect(2p + 1) hypothetical data,
+    //! and cmdMoreInfo(p).
+    void pageCommands(FormBuilder &page, int p, const std::function<void()> &fromDatabase,
+                      const std::function<void()> &hypothetical);
     //! Opens another window by name for a record; where that window is not part of this version of
     //! the program the user is told so in a box, and false is returned.
     bool openWindow(const QString &name, const RecordRequest &request, bool modal);
 
 private:
     void buildHeader(FormBuilder &b);
-    void buildCommands(FormBuilder &b);
-    void buildMenu();
     void pageLeft(int page);
-    void calculations();
-    void newScenario(bool firstPage);
     void zoomNote(int index);
     void loadEditedScenario();
     //! Notes the species the page now stands for, against which a later choice counts as a change.

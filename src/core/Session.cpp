@@ -45,6 +45,8 @@ void Session::openDatabase()
     for (const QString &table : schemaTables())
         if (!db->hasTable(table))
             throw VbError(VbErr::NotDatabaseFormat, QStringLiteral("Unrecognized database format '%1'.").arg(gPathDatabase));
+    // A user's database from an earlier version gets the columns added since.
+    upgradeSchema(*db);
     // Several programs may share the file: where the file system allows, they read while one writes.
     db->shareWithOtherPrograms();
     gDB = std::move(db);

@@ -155,8 +155,10 @@ void clsScenario::Save(const QString &group)
         FileName = chosenName;
         FilePath = chosenPath;
     }
-    // A further connection proves that the database can be opened; it is not used further.
-    db = Database::open(m_session.gPathDatabase);
+    // The database must open before anything is saved: the program's own connection is the proof
+    // while it is on that file; a further one is opened once the setup window has pointed elsewhere.
+    db = m_session.gDB && m_session.gDB->path() == m_session.gPathDatabase ? m_session.gDB
+                                                                         : Database::open(m_session.gPathDatabase);
     SaveWildlife(group);
     const QString line = markerLine();
     if (!chosenName.isEmpty())

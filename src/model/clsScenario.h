@@ -73,7 +73,7 @@ public:
     qint32 SoilCategoryID = 0;
     qint32 SedimentCategoryID = 0;
     qint32 ChemicalID = 0;
-    std::shared_ptr<Database> db;   //!< the further connection that Save opens
+    std::shared_ptr<Database> db;   //!< the connection Save proved the database with
 
     //! The properties above by name (ModelFields.cpp), for scripts.
     static const std::vector<ModelField<clsScenario>> &fields();

@@ -97,10 +97,10 @@ const std::vector<TableDef> &tableDefs()
          "ReferenceID:I, DataSourceID:I"},
         {"tblAE",
          "AEID:K, ConsumerName:T, ConsumerGenus:T, ConsumerSpecies:T, FoodName:T, FoodGenus:T, FoodSpecies:T, "
-         "TaxonID:I, FoodGroupID:I, Mean:N, Min:N, Max:N, VarValue:N, VarianceTypeID:I, ComponentID:I, "
+         "TaxonID:I, FoodGroupID:I, Mean:N, Min:N, Max:N, Sample:N, VarValue:N, VarianceTypeID:I, ComponentID:I, "
          "LifestageID:I, Comments:M, " CLASSIFICATION ", ReferenceID:I, DataSourceID:I"},
         {"tblWaterConversion",
-         "WaterConversionID:K, Item:T, Genus:T, Species:T, Mean:N, Min:N, Max:N, VarValue:N, VarianceTypeID:I, "
+         "WaterConversionID:K, Item:T, Genus:T, Species:T, Mean:N, Min:N, Max:N, Sample:N, VarValue:N, VarianceTypeID:I, "
          "FoodGroupID:I, HabitatTypeID:I, ComponentID:I, LifestageID:I, Comments:M, " CLASSIFICATION ", "
          "ReferenceID:I, DataSourceID:I"},
         {"tblTrophicLevel",
@@ -276,6 +276,32 @@ const QMap<QString, QStringList> &schemaColumns()
         return m;
     }();
     return map;
+}
+
+void upgradeSchema(sqlite3 *db)
+{
+    auto exec = [db](const QString &sql) {
+        char *err = nullptr;
+        if (sqlite3_exec(db, sql.toUtf8().constData(), nullptr, nullptr, &err) != SQLITE_OK) {
+            const QString message = QString::fromUtf8(err ? err : sqlite3_errmsg(db));
+            sqlite3_free(err);
+            throw VbError(VbErr::GenericDbError, QStringLiteral("Cannot upgrade the database: %1 (%2)").arg(message, sql.left(80)));
+        }
+    };
+    for (const TableDef &t : tableDefs()) {
+        QStringList present;
+        sqlite3_stmt *stmt = nullptr;
+        const QByteArray info = QStringLiteral("PRAGMA table_info([%1])").arg(QLatin1String(t.name)).toUtf8();
+        if (sqlite3_prepare_v2(db, info.constData(), -1, &stmt, nullptr) == SQLITE_OK)
+            while (sqlite3_step(stmt) == SQLITE_ROW)
+                present.append(QString::fromUtf8(reinterpret_cast<const char *>(sqlite3_column_text(stmt, 1))).toLower());
+        sqlite3_finalize(stmt);
+        if (present.isEmpty())
+            continue;  // a table the file lacks is not added here: such a file is refused on opening
+        for (const ColumnDef &c : parseColumns(t.columns))
+            if (!present.contains(c.name.toLower()))
+                exec(QStringLiteral("ALTER TABLE [%1] ADD COLUMN %2").arg(QLatin1String(t.name), columnDdl(c)));
+    }
 }
 
 void createSchema(sqlite3 *db)

@@ -21,6 +21,17 @@ inline void createSchema(Database &db)
     db.clearSchemaCache();
 }
 
+//! Brings a database made by an earlier version up to the present tables: every column that a table
+//! lacks is added (empty in the rows there are, with its default), so that a user's own database
+//! keeps its rows and works with the columns that later versions write. Throws VbError when the file
+//! refuses a change.
+void upgradeSchema(sqlite3 *db);
+inline void upgradeSchema(Database &db)
+{
+    upgradeSchema(db.handle());
+    db.clearSchemaCache();
+}
+
 //! The names of the tables that createSchema creates, in creation order.
 QStringList schemaTables();
 

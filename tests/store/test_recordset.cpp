@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The DAO layer over SQLite: navigation, edits, autonumbers, Find, errors.
 #include "Database.h"
+#include "TestSupport.h"
 #include "VbError.h"
 
 #include <QTemporaryDir>
@@ -26,16 +27,6 @@ protected:
     QTemporaryDir dir;
     std::shared_ptr<Database> db;
 };
-
-int errorNumber(const std::function<void()> &f)
-{
-    try {
-        f();
-    } catch (const VbError &e) {
-        return e.number();
-    }
-    return 0;
-}
 
 TEST_F(RecordsetTest, NavigationCountsAsFarAsPopulated)
 {

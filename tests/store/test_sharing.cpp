@@ -4,6 +4,7 @@
 // reporting a lock that outlasts the wait as a lock, with nothing half-written.
 #include "Database.h"
 #include "Schema.h"
+#include "TestSupport.h"
 #include "VbError.h"
 
 #include <QElapsedTimer>
@@ -16,18 +17,6 @@
 #include <thread>
 
 namespace {
-
-int errorNumber(const std::function<void()> &f, QString *text = nullptr)
-{
-    try {
-        f();
-    } catch (const VbError &e) {
-        if (text)
-            *text = e.description();
-        return e.number();
-    }
-    return 0;
-}
 
 class SharedFile : public ::testing::Test {
 protected:

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // An in-memory SQLite database with the program's schema, and small helpers to run and read SQL on it,
-// for the tests of the schema and of the seed loader.
+// for the tests of the schema, the seed loader and the built seed database.
 #pragma once
 
 #include "Schema.h"

@@ -2,6 +2,7 @@
 #include "TestSupport.h"
 
 #include "Schema.h"
+#include "VbError.h"
 
 #include <QFile>
 #include <gtest/gtest.h>
@@ -21,6 +22,18 @@ FileChoice FakeFileChooser::choose(const QString &fileType, const QString &actio
 {
     asked << fileType + QLatin1Char('|') + action;
     return next;
+}
+
+int errorNumber(const std::function<void()> &f, QString *text)
+{
+    try {
+        f();
+    } catch (const VbError &e) {
+        if (text)
+            *text = e.description();
+        return e.number();
+    }
+    return 0;
 }
 
 QString seedDatabasePath() { return QStringLiteral(ZOB_SEED_DB); }

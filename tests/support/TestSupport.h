@@ -6,6 +6,7 @@
 
 #include <QTemporaryDir>
 #include <QVector>
+#include <functional>
 #include <memory>
 
 //! A box the program showed, as the recording message service saw it.
@@ -65,3 +66,6 @@ private:
 
 //! The path of the built default database.
 QString seedDatabasePath();
+
+//! The number of the VbError that f throws (its description into *text), or 0 if it throws none.
+int errorNumber(const std::function<void()> &f, QString *text = nullptr);

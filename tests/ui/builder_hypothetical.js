@@ -145,6 +145,25 @@ test('a typed air rate is stored as base and adjusted rate; a 0 typed over it is
     expect(w.control('cmdSelect(7)').visible).toBeFalsy();
 });
 
+test('the File menu by index; Save saves, Save As and Print do nothing; Help follows the page left', () => {
+    const w = builder();
+    expect([0, 1, 2, 4, 5, 7, 9].map(i => ui.menu('mnuFileOptions(' + i + ')').caption))
+        .toEqual(['&New', '&Open...', 'Close', '&Save...', 'Save &As...', '&Print', 'E&xit']);
+    w.control('txtNotes(2)').setText('Diet typed by hand');
+    ui.menu('mnuFileOptions(4)').trigger();
+    expect(wildlife().DietComments).toBe('Diet typed by hand');
+    ui.clearMessages();
+    ui.menu('mnuFileOptions(5)').trigger();
+    ui.menu('mnuFileOptions(7)').trigger();
+    expect(ui.messages().length).toBe(0);
+    expect(ui.windows()).not.toContain('frmReports');
+    // The help topic is the one of the page that was left last, not of the page shown.
+    w.control('ssTabSB').selectTab(2);
+    w.control('ssTabSB').selectTab(0);
+    w.toolbar().click('Help');
+    expect(ui.helpTopic()).toBe(1006);
+});
+
 test('closing saves, returns to the project, and the scenario reopens from it as it was', () => {
     const sid = session.scenario.SID;
     builder().control('txtNotes(0)').setText('Marsh rats are a guess');
@@ -163,7 +182,7 @@ test('closing saves, returns to the project, and the scenario reopens from it as
     expect(w.control('txtDietHabitat').text).toBe("Farmer's marsh");
     expect(w.control('txtNotes(0)').text).toBe('Marsh rats are a guess');
     expect(w.control('txtNotes(8)').text).toBe("Rats of the lower marsh, o'er the dike");
-    expect(w.control('LbLDataSource(0)').text).toBe('Data Source: Typed in scenario builder  ');
+    expect(w.control('LbLDataSource(0)').text).toBe('Data Source: User entered  ');
     expect(session.scenario.Species_DataSource).toBe(2);
     expect(ui.cursor()).toBe('default');
 });

@@ -123,6 +123,15 @@ test('More Information on the diet shows the diet alone, read-only', () => {
     dialog.close();
 });
 
+test('Print opens the catalogue of the scenario\'s reports over the builder', () => {
+    builder().toolbar().click('Print');
+    const reports = ui.window('frmReports');
+    expect(reports.caption).toBe('Print');
+    expect(reports.control('lstReports').items).toContain('Wildlife Diet');
+    reports.close();
+    expect(ui.windows()).toContain('frmZOB');
+});
+
 test('closing saves and the scenario reopens from the project window as it was left', () => {
     const id = sid();
     const weight = wildlife().Weight;

@@ -22,7 +22,7 @@ const openForScenario = () => pickers.open('frmSelect_SoilIngestion', { recordId
 
 test('from the menu: every study sorted by taxon and species, no Select, entry window asked for', () => {
     ui.menu('mnuSoilIngestion').trigger();
-    const w = ui.window('frmSelect_SoilIngestion');
+    let w = ui.window('frmSelect_SoilIngestion');
     expect(w.toolbar().visible('Select')).toBeFalsy();
     const grid = w.control('ssGrdMain');
     expect(grid.rowCount).toBe(db.query('Select Count(*) As N From tblSoilIngestion')[0].N);
@@ -38,6 +38,12 @@ test('from the menu: every study sorted by taxon and species, no Select, entry w
     if (ui.windows().indexOf('frmDE_SoilIngestion') < 0) {
         expect(texts()).toEqual(['The window frmDE_SoilIngestion is not available in this version.']);
         expect(db.query('Select Count(*) As N From tblSoilIngestion')[0].N).toBe(before);
+    } else {
+        // The list gives way to the new study in its entry window.
+        expect(db.query('Select Count(*) As N From tblSoilIngestion')[0].N).toBe(before + 1);
+        ui.window('frmDE_SoilIngestion').close();
+        ui.menu('mnuSoilIngestion').trigger();
+        w = ui.window('frmSelect_SoilIngestion');
     }
     w.toolbar().click('Help');
     expect(ui.helpTopic()).toBe(4103);

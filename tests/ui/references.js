@@ -1,5 +1,5 @@
 // The reference picker: from the menu (every reference by author, no Select, New and a double click
-// asking for the missing entry window), for a caller's row (the held reference shown first, narrowed by
+// opening the entry window), for a caller's row (the held reference shown first, narrowed by
 // author at each keystroke and by species, sorted by a head click, Select writing ReferenceID), and an
 // apostrophe typed in the search box.
 
@@ -23,11 +23,20 @@ test('from the menu: every reference by author; New and a double click say the e
     const authors = grid.rows.map(r => r[1].toLowerCase());
     expect(authors).toEqual(authors.slice().sort());
     expect(w.toolbar().visible('Select')).toBeFalsy();
-    ui.clearMessages();
+    // New adds a blank reference and opens it; a double click opens the row's reference.
+    const top = () => db.query('Select Max(ReferenceID) As M From tblReferences')[0].M;
+    const before = top();
     w.toolbar().click('New');
+    const entry = ui.window('frmDE_Reference');
+    expect(top()).toBe(before + 1);
+    expect(entry.control('txtAuthor').text).toBe('');
+    entry.control('txtAuthor').setText("O'Neil");
+    entry.toolbar().click('Save');
+    expect(db.query('Select fldRef_Author From tblReferences Where ReferenceID = ' + (before + 1))[0].fldRef_Author).toBe("O'Neil");
+    entry.toolbar().click('Close');
     grid.dblClickRow(0);
-    const missing = 'The window frmDE_Reference is not available in this version.';
-    expect(texts()).toEqual([missing, missing]);
+    expect(ui.window('frmDE_Reference').control('txtAuthor').text).toBe(grid.cell(0, 1));
+    ui.window('frmDE_Reference').toolbar().click('Close');
     w.toolbar().click('Close');
 });
 

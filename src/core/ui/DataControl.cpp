@@ -275,6 +275,7 @@ void DataControl::leaveRow()
     const int row = currentRow();
     if (row < 0)
         return;
+    emit leavingRow();
     QVector<Binding *> changed;
     for (Binding &b : m_bindings)
         if (b.widget && !b.readOnly && !sameValue(ControlValue::boundValue(b.widget), b.shown))
@@ -456,6 +457,13 @@ QVariant RecordsetModel::data(const QModelIndex &index, int role) const
         return m_dc->value(index.row(), index.column()).toBool() ? Qt::Checked : Qt::Unchecked;
     case Qt::EditRole:
         return m_dc->value(index.row(), index.column());
+    case Qt::TextAlignmentRole: {
+        // Numbers line up on their last digit, as in a table on paper; text and yes/no stay left.
+        const int type = m_dc->value(index.row(), index.column()).typeId();
+        const bool number = type == QMetaType::Int || type == QMetaType::LongLong || type == QMetaType::Double
+            || type == QMetaType::Short || type == QMetaType::Float || type == QMetaType::UInt || type == QMetaType::ULongLong;
+        return number ? QVariant(Qt::AlignRight | Qt::AlignVCenter) : QVariant();
+    }
     case Qt::ForegroundRole:
         if (m_styler) {
             const QColor c = m_styler(index.row()).fore;

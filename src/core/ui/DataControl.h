@@ -92,6 +92,9 @@ public:
 signals:
     //! The current row changed (or the rows were read again).
     void Reposition();
+    //! The current row is about to be left (a move, a Refresh, UpdateRecord), before the bound boxes
+    //! are written back: a window that writes its own columns does so here.
+    void leavingRow();
     //! The rows are about to be read again / were read again.
     void aboutToRefresh();
     void refreshed();

@@ -3,30 +3,47 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QHash>
 #include <QStyle>
 
 namespace {
+//! The style's icon, read from its image file once per style: every window builds its toolbar anew,
+//! and decoding the same pictures each time is most of the cost of a toolbar.
+QIcon styleIcon(QStyle::StandardPixmap which)
+{
+    static QHash<int, QIcon> cache;
+    static QStyle *cachedFor = nullptr;
+    QStyle *st = QApplication::style();
+    if (st != cachedFor) {
+        cache.clear();
+        cachedFor = st;
+    }
+    auto it = cache.constFind(which);
+    if (it == cache.constEnd())
+        it = cache.insert(which, st->standardIcon(which));
+    return *it;
+}
+
 QIcon iconForKey(const QString &key)
 {
     const QString k = key.toLower();
-    QStyle *st = QApplication::style();
     if (k == QLatin1String("new") || k == QLatin1String("add"))
-        return st->standardIcon(QStyle::SP_FileIcon);
+        return styleIcon(QStyle::SP_FileIcon);
     if (k == QLatin1String("open") || k == QLatin1String("select"))
-        return st->standardIcon(QStyle::SP_DialogOpenButton);
+        return styleIcon(QStyle::SP_DialogOpenButton);
     if (k == QLatin1String("save"))
-        return st->standardIcon(QStyle::SP_DialogSaveButton);
+        return styleIcon(QStyle::SP_DialogSaveButton);
     if (k == QLatin1String("close") || k == QLatin1String("exit"))
-        return st->standardIcon(QStyle::SP_DialogCloseButton);
+        return styleIcon(QStyle::SP_DialogCloseButton);
     if (k == QLatin1String("delete"))
-        return st->standardIcon(QStyle::SP_TrashIcon);
+        return styleIcon(QStyle::SP_TrashIcon);
     if (k == QLatin1String("help"))
-        return st->standardIcon(QStyle::SP_DialogHelpButton);
+        return styleIcon(QStyle::SP_DialogHelpButton);
     if (k == QLatin1String("print"))
-        return st->standardIcon(QStyle::SP_FileDialogDetailedView);
+        return styleIcon(QStyle::SP_FileDialogDetailedView);
     if (k == QLatin1String("find") || k == QLatin1String("search"))
-        return st->standardIcon(QStyle::SP_FileDialogContentsView);
-    return st->standardIcon(QStyle::SP_ArrowRight);
+        return styleIcon(QStyle::SP_FileDialogContentsView);
+    return styleIcon(QStyle::SP_ArrowRight);
 }
 }  // namespace
 
