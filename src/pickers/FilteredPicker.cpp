@@ -139,8 +139,7 @@ QString FilteredPicker::routine(const QString &name) const
 
 qint32 FilteredPicker::callerClassification(const QString &column)
 {
-    const RecordRequest &r = recordRequest();
-    session().gSQL = QStringLiteral("Select * From %1 WHERE %1.%2 = %3").arg(r.table, r.keyField).arg(r.recordId);
+    session().gSQL = callerRowSql();
     auto rs = session().gDB->OpenRecordset(session().gSQL, RecordsetType::Dynaset);
     const QVariant value = rs->field(column);
     rs->Close();
@@ -191,7 +190,7 @@ void FilteredPicker::select()
             doubleClick();
         return;
     }
-    session().gSQL = QStringLiteral("Select * From %1 WHERE %1.%2 = %3").arg(r.table, r.keyField).arg(r.recordId);
+    session().gSQL = callerRowSql();
     auto caller = session().gDB->OpenRecordset(session().gSQL, RecordsetType::Dynaset);
     if (caller->EOF_() && m_profile.quietWhenCallerGone)
         return;

@@ -143,9 +143,8 @@ void frmFind_Classification::find(bool next)
 
 void frmFind_Classification::select()
 {
-    const RecordRequest &r = recordRequest();
     Recordset &row = m_dc->current();
-    session().gSQL = QStringLiteral("Select * From %1 WHERE %2 = %3").arg(r.table, r.keyField).arg(r.recordId);
+    session().gSQL = callerRowSql(false);
     auto rs = session().gDB->OpenRecordset(session().gSQL, RecordsetType::Dynaset);
     rs->Edit();
     rs->setField(QStringLiteral("KingdomID"), row.field(QStringLiteral("KingdomID")));

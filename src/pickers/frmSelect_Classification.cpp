@@ -102,7 +102,7 @@ void frmSelect_Classification::LoadData()
     const RoutineInfo info{ErrForm::Shared, routine(QStringLiteral("LoadData")), routine(QStringLiteral("LoadData"))};
     guarded(session(), info, [&] {
         const RecordRequest &r = recordRequest();
-        session().gSQL = QStringLiteral("Select * From %1 Where %2 = %3").arg(r.table, r.keyField).arg(r.recordId);
+        session().gSQL = callerRowSql(false);
         auto rs = session().gDB->OpenRecordset(session().gSQL, RecordsetType::Dynaset);
         if (rs->EOF_()) {
             traceLine(session(), TraceLayout::Tabbed, routine(QStringLiteral("LoadData Recordset is empty")));
@@ -209,8 +209,7 @@ void frmSelect_Classification::select()
                          MsgIcon::Warning);
         return;
     }
-    const RecordRequest &r = recordRequest();
-    session().gSQL = QStringLiteral("Select * From %1 WHERE %2 = %3").arg(r.table, r.keyField).arg(r.recordId);
+    session().gSQL = callerRowSql(false);
     auto rs = session().gDB->OpenRecordset(session().gSQL, RecordsetType::Dynaset);
     rs->Edit();
     rs->setField(QStringLiteral("KingdomID"), valueOf(0));

@@ -136,9 +136,8 @@ void frmSelect_Reference::openReference()
 
 void frmSelect_Reference::select()
 {
-    const RecordRequest &r = recordRequest();
     const QVariant reference = m_dc->current().field(QStringLiteral("ReferenceID"));
-    session().gSQL = QStringLiteral("Select * From %1 WHERE %1.%2 = %3").arg(r.table, r.keyField).arg(r.recordId);
+    session().gSQL = callerRowSql();
     auto rs = session().gDB->OpenRecordset(session().gSQL, RecordsetType::Dynaset);
     rs->Edit();
     rs->setField(QStringLiteral("ReferenceID"), reference);

@@ -171,6 +171,7 @@ test('a diet without energy values: the warning comes again and again, and the w
 test('a new gross energy chosen for a scenario item in its picker shows in MEavg, TDI and the item row', () => {
     const richer = energy(80, 3.0, 6.0);
     const beetles = db.query("Select DietItemID From tblWildlifeDietItems Where Name = 'Beetles' And ScenarioID = " + full)[0].DietItemID;
+    session.scenario.SID = full;
     pickers.open('frmSelect_GE', { recordId: beetles, table: 'tblWildlifeDietItems', keyField: 'DietItemID', selectedId: 0 });
     const grid = ui.window('frmSelect_GE').control('ssCmbSearch');
     const key = grid.columns.indexOf('GrossEnergyID');
@@ -183,3 +184,20 @@ test('a new gross energy chosen for a scenario item in its picker shows in MEavg
     expect(w.control('ssGrdDietItems').rows[0].slice(0, 4)).toEqual(['Beetles', '3.', '80.0', '2.4']);
     w.toolbar().click('Close');
 });
+
+test('a value picked for a scenario\'s copied item is written to that scenario\'s copy only', () => {
+    // Copies of one reference item share its id; the first row with that id belongs to the other scenario.
+    const beetles = db.query("Select DietItemID From tblWildlifeDietItems Where Name = 'Beetles' And ScenarioID = " + full)[0].DietItemID;
+    const other = full + 500;
+    db.exec('Insert Into tblWildlifeDietItems (ScenarioID, DietID, DietItemID, Name) Values (' + other + ', 0, ' + beetles + ", 'Beetles')");
+    const geOf = sid => db.query('Select GrossEnergyID From tblWildlifeDietItems Where DietItemID = ' + beetles + ' And ScenarioID = ' + sid)[0].GrossEnergyID;
+    const before = geOf(full);
+    const leaner = energy(60, 1.0, 2.0);
+    session.scenario.SID = other;
+    pickers.open('frmSelect_GE', { recordId: beetles, table: 'tblWildlifeDietItems', keyField: 'DietItemID', selectedId: 0 });
+    const grid = ui.window('frmSelect_GE').control('ssCmbSearch');
+    grid.selectRow(grid.rows.findIndex(r => Number(r[grid.columns.indexOf('GrossEnergyID')]) === leaner));
+    ui.window('frmSelect_GE').toolbar().click('Select');
+    expect([geOf(other), geOf(full)]).toEqual([leaner, before]);
+});
+

@@ -8,6 +8,7 @@
 #include "Session.h"
 #include "Utilities.h"
 #include "ZobToolbar.h"
+#include "clsScenario.h"
 
 #include <QAction>
 #include <QCloseEvent>
@@ -228,4 +229,15 @@ bool ZobWindow::event(QEvent *e)
     if (e->type() == QEvent::WindowActivate && isWindow() && !m_unloading)
         Form_Activate();
     return QWidget::event(e);
+}
+
+QString ZobWindow::callerRowSql(bool qualified) const
+{
+    const RecordRequest &r = m_request;
+    QString sql = qualified ? QStringLiteral("Select * From %1 WHERE %1.%2 = %3").arg(r.table, r.keyField).arg(r.recordId)
+                            : QStringLiteral("Select * From %1 WHERE %2 = %3").arg(r.table, r.keyField).arg(r.recordId);
+    if (r.table.compare(QLatin1String("tblWildlifeDietItems"), Qt::CaseInsensitive) == 0 && m_session.gScenario
+        && m_session.gScenario->SID > 0)
+        sql += QStringLiteral(" AND ScenarioID = %1").arg(m_session.gScenario->SID);
+    return sql;
 }

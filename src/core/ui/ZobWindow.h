@@ -67,6 +67,11 @@ public:
     virtual void setRecord(const RecordRequest &request) { m_request = request; }
     //! The last request given to setRecord.
     const RecordRequest &recordRequest() const { return m_request; }
+    //! The statement of the caller's row of the last request: "Select * From <table> WHERE
+    //! [<table>.]<key> = <id>". A scenario's copied diet item keeps the id of the reference item it was
+    //! copied from, so there the open scenario's id is a further criterion: a write must never reach
+    //! another scenario's copy.
+    QString callerRowSql(bool qualified = true) const;
 
     //! The window's help number.
     int HelpContextID = 0;
