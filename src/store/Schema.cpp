@@ -228,6 +228,17 @@ QString columnDdl(const ColumnDef &c)
     return ddl;
 }
 
+//! Indexes that only make reading faster: a file without them is correct, only slower.
+QStringList speedIndexes()
+{
+    // The value lists join the references to each value table from the references' side, so each
+    // reference looks up its values: without these indexes every reference scans the whole table.
+    QStringList out;
+    for (const char *table : {"tblGrossEnergy", "tblAE", "tblWaterConversion", "tblTrophicLevel"})
+        out.append(QStringLiteral("CREATE INDEX IF NOT EXISTS %1_Reference ON %1 (ReferenceID)").arg(QLatin1String(table)));
+    return out;
+}
+
 const char *const kReferenceView =
     "CREATE VIEW qryReference AS SELECT ReferenceID, "
     "COALESCE(fldRef_Author,'') || '. ' || COALESCE(fldRef_Year,'') || '. ' || "
@@ -248,10 +259,7 @@ QStringList schemaStatements()
     out.append(QLatin1String(kReferenceView));
     // A scenario is linked to a project once: a second link is a duplicate key.
     out.append(QStringLiteral("CREATE UNIQUE INDEX jtblProjectScenario_Link ON jtblProjectScenario (ProjectID, ScenarioID)"));
-    // The value lists join the references to each value table from the references' side, so each
-    // reference looks up its values: without these indexes every reference scans the whole table.
-    for (const char *table : {"tblGrossEnergy", "tblAE", "tblWaterConversion", "tblTrophicLevel"})
-        out.append(QStringLiteral("CREATE INDEX IF NOT EXISTS %1_Reference ON %1 (ReferenceID)").arg(QLatin1String(table)));
+    out.append(speedIndexes());
     return out;
 }
 
@@ -302,6 +310,11 @@ void upgradeSchema(sqlite3 *db)
             if (!present.contains(c.name.toLower()))
                 exec(QStringLiteral("ALTER TABLE [%1] ADD COLUMN %2").arg(QLatin1String(t.name), columnDdl(c)));
     }
+    // A file from an earlier version gets the indexes added since. They only make reading faster, so a
+    // file that cannot take them (opened read-only, or locked by another program) goes on without.
+    if (!sqlite3_db_readonly(db, "main"))
+        for (const QString &index : speedIndexes())
+            sqlite3_exec(db, index.toUtf8().constData(), nullptr, nullptr, nullptr);
 }
 
 void createSchema(sqlite3 *db)

@@ -24,7 +24,7 @@ inline void createSchema(Database &db)
 //! Brings a database made by an earlier version up to the present tables: every column that a table
 //! lacks is added (empty in the rows there are, with its default), so that a user's own database
 //! keeps its rows and works with the columns that later versions write. Throws VbError when the file
-//! refuses a change.
+//! refuses a change. Indexes added since are made where the file can take them.
 void upgradeSchema(sqlite3 *db);
 inline void upgradeSchema(Database &db)
 {

@@ -121,12 +121,14 @@ TEST(Schema, UpgradeAddsTheColumnsAnEarlierDatabaseLacksAndKeepsItsRows)
     // A database of an earlier version: tblAE without Sample, tblSpecies without its default data source.
     exec(db.get(), "ALTER TABLE tblAE DROP COLUMN Sample");
     exec(db.get(), "ALTER TABLE tblSpecies DROP COLUMN DataSourceID");
+    exec(db.get(), "DROP INDEX tblAE_Reference");
     exec(db.get(), "INSERT INTO tblAE (AEID, ConsumerName, Mean) VALUES (7, 'Mink', 80)");
     exec(db.get(), "INSERT INTO tblSpecies (SpeciesID, Common) VALUES (3, 'Otter')");
     upgradeSchema(db.get());
     EXPECT_EQ(scalar(db.get(), "SELECT ConsumerName || ' ' || Mean FROM tblAE WHERE AEID = 7"), "Mink 80.0");
     EXPECT_EQ(scalar(db.get(), "SELECT Sample FROM tblAE WHERE AEID = 7"), "<null>");
     EXPECT_EQ(scalar(db.get(), "SELECT DataSourceID FROM tblSpecies WHERE SpeciesID = 3"), "6");
+    EXPECT_EQ(scalar(db.get(), "SELECT count(*) FROM sqlite_master WHERE name = 'tblAE_Reference'"), "1");
     // The added column checks its values like one made with the table, and a second run changes nothing.
     EXPECT_NE(sqlite3_exec(db.get(), "UPDATE tblAE SET Sample = 'ten' WHERE AEID = 7", nullptr, nullptr, nullptr), SQLITE_OK);
     upgradeSchema(db.get());
