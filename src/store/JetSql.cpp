@@ -967,11 +967,83 @@ private:
     }
 };
 
+// "SELECT <list> FROM <table> RIGHT JOIN (<joins>) ON <condition> [WHERE ...]" as "... FROM (<joins>)
+// LEFT JOIN <table> ON <condition> ...": the same rows, but SQLite materializes a bracketed join on the
+// right of a RIGHT JOIN and scans it once for every row of the table, which at a few thousand rows a
+// side takes seconds; on the left of a LEFT JOIN the table is looked up by its index. Only a statement
+// of exactly that shape, whose list names its columns (a "*" would change their order), is rewritten.
+QString rightJoinAsLeftJoin(const QString &src)
+{
+    if (!src.contains(QLatin1String("right"), Qt::CaseInsensitive))
+        return src;
+    std::vector<Token> t;
+    try {
+        t = tokenize(src);
+    } catch (const VbError &) {
+        return src;   // the translator reports it
+    }
+    const int n = int(t.size());
+    auto op = [&](int i, char c) { return i >= 0 && i < n && t[size_t(i)].kind == Tk::Op && t[size_t(i)].len == 1
+                                          && src.at(t[size_t(i)].pos) == QLatin1Char(c); };
+    auto kw = [&](int i, Kw k) { return i >= 0 && i < n && t[size_t(i)].kw == k; };
+    if (!kw(0, Kw::Select))
+        return src;
+    int from = 1;
+    for (int depth = 0; from < n && !(depth == 0 && kw(from, Kw::From)); ++from) {
+        if (op(from, '('))
+            ++depth;
+        else if (op(from, ')'))
+            --depth;
+        else if (depth == 0 && op(from, '*'))
+            return src;
+    }
+    const int table = from + 1;
+    const bool tableIsName = table < n && (t[size_t(table)].kind == Tk::Name || (t[size_t(table)].kind == Tk::Word
+                                                                                  && t[size_t(table)].kw == Kw::None));
+    int join = table + 1;
+    if (!tableIsName || !kw(join, Kw::Right))
+        return src;
+    if (kw(join + 1, Kw::Outer))
+        ++join;
+    const int open = join + 2;
+    if (!kw(join + 1, Kw::Join) || !op(open, '('))
+        return src;
+    int close = open + 1;
+    for (int depth = 1; close < n; ++close) {
+        depth += op(close, '(') ? 1 : op(close, ')') ? -1 : 0;
+        if (depth == 0)
+            break;
+    }
+    if (close >= n || !kw(close + 1, Kw::On))
+        return src;
+    int end = close + 2;
+    for (int depth = 0; end < n; ++end) {
+        depth += op(end, '(') ? 1 : op(end, ')') ? -1 : 0;
+        if (depth < 0)
+            return src;
+        if (depth > 0)
+            continue;
+        if (kw(end, Kw::Where) || kw(end, Kw::Order) || kw(end, Kw::Group) || kw(end, Kw::Having) || op(end, ';'))
+            break;
+        if (kw(end, Kw::Join) || kw(end, Kw::Left) || kw(end, Kw::Right) || kw(end, Kw::Inner) || kw(end, Kw::Union))
+            return src;   // a further join or a second statement: left as written
+    }
+    auto piece = [&](int first, int last) {   // the source text of tokens first..last
+        const qsizetype begin = t[size_t(first)].pos;
+        return src.mid(begin, t[size_t(last)].pos + t[size_t(last)].len - begin);
+    };
+    QString out = src.left(t[size_t(table)].pos) + piece(open, close) + QLatin1String(" LEFT JOIN ") + piece(table, table)
+        + QLatin1Char(' ') + piece(close + 1, end - 1);
+    if (end < n)
+        out += QLatin1Char(' ') + src.mid(t[size_t(end)].pos);
+    return out;
+}
+
 }  // namespace
 
 QString translateJetSql(const QString &jetSql)
 {
-    return Translator(jetSql, true).run();
+    return Translator(rightJoinAsLeftJoin(jetSql), true).run();
 }
 
 QString translateJetCriteria(const QString &jetCriteria)

@@ -370,6 +370,18 @@ TEST_F(JetSqlDb, RightJoinsKeepRecordsWithoutReference)
               (Rows{"2|finch|NULL|NULL|70.25|NULL", "1|robin|Adult|Whole body|85.0|Adams, B.. 1998. . J. Wildl.. "}));
 }
 
+TEST(JetSqlText, ABracketedRightJoinBecomesALeftJoinOnlyWhereTheColumnsAreNamed)
+{
+    // SQLite scans a bracketed join on the right of a RIGHT JOIN once per row of the other side.
+    const QString right = QStringLiteral("SELECT a.x, r.y FROM r RIGHT JOIN (a LEFT JOIN b ON a.k = b.k) ON r.id = a.rid");
+    EXPECT_EQ(translateJetSql(right + QStringLiteral(" WHERE a.x = 1")).simplified(),
+              QStringLiteral("SELECT a.x, r.y FROM (a LEFT JOIN b ON a.k = b.k) LEFT JOIN r ON r.id = a.rid WHERE a.x = 1"));
+    // A "*" would change the order of the columns; a further join is left as the author bracketed it.
+    for (const QString &kept : {QStringLiteral("SELECT * FROM r RIGHT JOIN (a LEFT JOIN b ON a.k = b.k) ON r.id = a.rid"),
+                                right + QStringLiteral(" LEFT JOIN c ON c.k = a.k")})
+        EXPECT_TRUE(translateJetSql(kept).contains(QLatin1String("RIGHT JOIN"), Qt::CaseInsensitive)) << kept.toStdString();
+}
+
 TEST_F(JetSqlDb, DeeplyNestedJoinsOfTheDietItemList)
 {
     const QString sql = QStringLiteral(
