@@ -3,12 +3,16 @@
 
 #include "Session.h"
 
+#include <QByteArray>
 #include <QFile>
+#include <QList>
 #include <QTemporaryDir>
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <vector>
+
+#include <sqlite3.h>
 
 //! A session on a private copy of the seeded database, as every benchmark starts from.
 class BenchSession {
@@ -59,3 +63,21 @@ double benchMillis(F &&f)
     f();
     return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count();
 }
+
+//! Runs each statement on SQLite itself to its end, reading every column: what a program written on
+//! the C interface would do to show the same rows.
+inline void replayStatements(sqlite3 *db, const QList<QByteArray> &statements)
+{
+    volatile qint64 sink = 0;
+    for (const QByteArray &sql : statements) {
+        sqlite3_stmt *st = nullptr;
+        if (sqlite3_prepare_v2(db, sql.constData(), static_cast<int>(sql.size()), &st, nullptr) != SQLITE_OK)
+            continue;
+        const int n = sqlite3_column_count(st);
+        while (sqlite3_step(st) == SQLITE_ROW)
+            for (int i = 0; i < n; ++i)
+                sink = sink + (sqlite3_column_type(st, i) == SQLITE_TEXT ? sqlite3_column_bytes(st, i) : sqlite3_column_int64(st, i));
+        sqlite3_finalize(st);
+    }
+}
+

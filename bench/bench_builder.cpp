@@ -56,21 +56,7 @@ int onStatement(unsigned, void *, void *stmt, void *)
     return 0;
 }
 
-//! Runs each statement to its end, reading every column.
-void replay(sqlite3 *db)
-{
-    volatile qint64 sink = 0;
-    for (const QByteArray &sql : g_reads) {
-        sqlite3_stmt *st = nullptr;
-        if (sqlite3_prepare_v2(db, sql.constData(), static_cast<int>(sql.size()), &st, nullptr) != SQLITE_OK)
-            continue;
-        const int n = sqlite3_column_count(st);
-        while (sqlite3_step(st) == SQLITE_ROW)
-            for (int i = 0; i < n; ++i)
-                sink = sink + (sqlite3_column_type(st, i) == SQLITE_TEXT ? sqlite3_column_bytes(st, i) : sqlite3_column_int64(st, i));
-        sqlite3_finalize(st);
-    }
-}
+void replay(sqlite3 *db) { replayStatements(db, g_reads); }
 
 //! A saved scenario of the American robin with a weight, a diet of the reference data and two rates.
 void makeScenario(Session &s)

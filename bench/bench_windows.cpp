@@ -79,17 +79,7 @@ public:
     double replayMs() const
     {
         const double t0 = nowMs();
-        volatile qint64 sink = 0;
-        for (const QByteArray &sql : m_sql) {
-            sqlite3_stmt *st = nullptr;
-            if (sqlite3_prepare_v2(m_db, sql.constData(), static_cast<int>(sql.size()), &st, nullptr) != SQLITE_OK)
-                continue;
-            const int n = sqlite3_column_count(st);
-            while (sqlite3_step(st) == SQLITE_ROW)
-                for (int i = 0; i < n; ++i)
-                    sink = sink + (sqlite3_column_type(st, i) == SQLITE_TEXT ? sqlite3_column_bytes(st, i) : sqlite3_column_int64(st, i));
-            sqlite3_finalize(st);
-        }
+        replayStatements(m_db, m_sql);
         return nowMs() - t0;
     }
 
