@@ -4,6 +4,7 @@
 #include "ControlValue.h"
 #include "DataControl.h"
 #include "Diagnostics.h"
+#include "NamesHeader.h"
 #include "QtWindowHost.h"
 #include "Recordset.h"
 #include "Session.h"
@@ -11,7 +12,6 @@
 #include "VbFormat.h"
 #include "Wildlife.h"
 #include "ZobToolbar.h"
-#include "SpeciesHeader.h"
 #include "frmDE_Measurement.h"
 
 #include <QAction>

@@ -7,15 +7,15 @@
 #include "Diagnostics.h"
 #include "Diet.h"
 #include "FormBuilder.h"
+#include "NamesHeader.h"
 #include "QtWindowHost.h"
 #include "RecordBinding.h"
 #include "Recordset.h"
 #include "Session.h"
-#include "SpeciesHeader.h"
-#include "SpeciesPages.h"
 #include "Utilities.h"
 #include "VbFormat.h"
 #include "WindowLinks.h"
+#include "WorkbookPages.h"
 #include "ZobToolbar.h"
 #include "clsScenario.h"
 #include "frmDE_IntakeMeasured.h"
@@ -52,7 +52,7 @@ frmDE_Species::frmDE_Species(Session &session, QtWindowHost &host) : RequestWind
                  QStringLiteral(" frmDE_Species.TB_MDI_ButtonClick"));
     m_lblHeader = b.frame(QStringLiteral("fraMain"), QStringLiteral("Currently Viewing Data for the following Species"))
                       .label(QStringLiteral("lblHeader"), QString());
-    m_pages = new SpeciesPages(session, b, this);
+    m_pages = new WorkbookPages(session, b, this);
     connectCommands();
     resize(900, 720);
 }
@@ -172,7 +172,7 @@ void frmDE_Species::serveRequest()
 void frmDE_Species::LoadReference(int filter)
 {
     DataControl *dc = m_pages->dcReference;
-    dc->setRecordSource(SpeciesPages::referenceStatement(speciesId(), filter));
+    dc->setRecordSource(WorkbookPages::referenceStatement(speciesId(), filter));
     dc->Refresh();
     m_pages->grdReferences->fitColumns(120);
 }
@@ -207,7 +207,7 @@ void frmDE_Species::LoadDietItems()
 void frmDE_Species::loadMeasured()
 {
     DataControl *dc = m_pages->dcMeasured;
-    dc->setRecordSource(SpeciesPages::measuredStatement(speciesId()));
+    dc->setRecordSource(WorkbookPages::measuredStatement(speciesId()));
     dc->Refresh();
     m_pages->ssGridMeasurement->fitColumns(30);
 }

@@ -4,7 +4,7 @@
 #include "RequestWindow.h"
 
 class QLabel;
-class SpeciesPages;
+class WorkbookPages;
 
 //! The species workbook: the species record with its general texts and references, its weights, its
 //! diets with their items, and its measured intakes, page by page, for one species (the request's
@@ -48,6 +48,6 @@ private:
     void connectCommands();
     void command(const QString &routine, const std::function<void()> &body) { runCommand(routine, body); }
 
-    SpeciesPages *m_pages;
+    WorkbookPages *m_pages;
     QLabel *m_lblHeader;
 };

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "SpeciesHeader.h"
+#include "NamesHeader.h"
 
 #include "Recordset.h"
 #include "Session.h"

@@ -18,10 +18,10 @@ class Session;
 //! The pages of the species workbook and what is on them: the species record with its general texts
 //! and references, its weights, its diets with their items, and its measured intakes. Each record page
 //! has its binding; the lists are grids over their data controls. The window gives the behaviour.
-class SpeciesPages : public QObject {
+class WorkbookPages : public QObject {
     Q_OBJECT
 public:
-    SpeciesPages(Session &session, FormBuilder &b, QObject *parent);
+    WorkbookPages(Session &session, FormBuilder &b, QObject *parent);
 
     //! The references of a species: those backing a general text (filter 0 to 3) or all (4).
     static QString referenceStatement(qint32 speciesId, int filter);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "SpeciesPages.h"
+#include "WorkbookPages.h"
 
 #include "DataControl.h"
 #include "FormBuilder.h"
@@ -46,7 +46,7 @@ W *bound(RecordBinding *r, W *control, const char *column)
 }
 }  // namespace
 
-SpeciesPages::SpeciesPages(Session &session, FormBuilder &b, QObject *parent) : QObject(parent), m_session(session)
+WorkbookPages::WorkbookPages(Session &session, FormBuilder &b, QObject *parent) : QObject(parent), m_session(session)
 {
     tabs = b.tabs(QStringLiteral("ssTabSB"));
     FormBuilder p0 = b.page(tabs, QStringLiteral("Species"));
@@ -60,7 +60,7 @@ SpeciesPages::SpeciesPages(Session &session, FormBuilder &b, QObject *parent) : 
     records = {species, weight, diet};
 }
 
-QWidget *SpeciesPages::dataSourceField(FormBuilder &b, RecordBinding *record, int page)
+QWidget *WorkbookPages::dataSourceField(FormBuilder &b, RecordBinding *record, int page)
 {
     QComboBox *c = b.combo(arrayName(QStringLiteral("cboDataSource"), page), QStringLiteral("Data Source:"));
     record->addField(c, QStringLiteral("DataSourceID"));
@@ -69,7 +69,7 @@ QWidget *SpeciesPages::dataSourceField(FormBuilder &b, RecordBinding *record, in
     return c;
 }
 
-void SpeciesPages::speciesPage(FormBuilder &page)
+void WorkbookPages::speciesPage(FormBuilder &page)
 {
     species = new RecordBinding(m_session, page.dataControl(QStringLiteral("dcSpecies")), QStringLiteral("tblSpecies"),
                                 QStringLiteral("SpeciesID"), this);
@@ -103,7 +103,7 @@ void SpeciesPages::speciesPage(FormBuilder &page)
     buttons.stretch();
 }
 
-void SpeciesPages::weightPage(FormBuilder &page)
+void WorkbookPages::weightPage(FormBuilder &page)
 {
     weight = new RecordBinding(m_session, page.dataControl(QStringLiteral("dcWeight")), QStringLiteral("tblWeight"),
                                QStringLiteral("WeightID"), this);
@@ -136,7 +136,7 @@ void SpeciesPages::weightPage(FormBuilder &page)
     page.stretch();
 }
 
-void SpeciesPages::dietPage(FormBuilder &page)
+void WorkbookPages::dietPage(FormBuilder &page)
 {
     dietTabs = page.tabs(QStringLiteral("ssTabDiet"));
     FormBuilder head = page.page(dietTabs, QStringLiteral("Diet"));
@@ -181,7 +181,7 @@ void SpeciesPages::dietPage(FormBuilder &page)
     buttons.stretch();
 }
 
-void SpeciesPages::intakePage(FormBuilder &page)
+void WorkbookPages::intakePage(FormBuilder &page)
 {
     dcMeasured = page.hiddenData(QStringLiteral("dcMeasured"));
     ssGridMeasurement = page.grid(QStringLiteral("ssGridMeasurement"), dcMeasured,
@@ -193,7 +193,7 @@ void SpeciesPages::intakePage(FormBuilder &page)
     buttons.stretch();
 }
 
-QString SpeciesPages::referenceStatement(qint32 speciesId, int filter)
+QString WorkbookPages::referenceStatement(qint32 speciesId, int filter)
 {
     static const char *const endings[] = {" AND jtblSpeciesReference.IsDistribution = True", " AND jtblSpeciesReference.IsHabitat = True",
                                           " AND jtblSpeciesReference.IsDiet = True", " AND jtblSpeciesReference.IsRelated = True", ""};
@@ -204,7 +204,7 @@ QString SpeciesPages::referenceStatement(qint32 speciesId, int filter)
            + QString::fromLatin1(endings[std::clamp(filter, 0, 4)]) + QStringLiteral(" Order By Reference");
 }
 
-QString SpeciesPages::measuredStatement(qint32 speciesId)
+QString WorkbookPages::measuredStatement(qint32 speciesId)
 {
     return QStringLiteral(
         "SELECT tblIntakeMeasured.IntakeMeasuredID, tblIntakeType.Description AS IntakeType, tblGender.Description AS Gender, "
