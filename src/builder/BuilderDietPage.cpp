@@ -7,6 +7,7 @@
 #include "DataControl.h"
 #include "Diagnostics.h"
 #include "Diet.h"
+#include "DietItemColumns.h"
 #include "FormBuilder.h"
 #include "QtWindowHost.h"
 #include "Recordset.h"
@@ -90,14 +91,7 @@ void BuilderDietPage::buildItems(FormBuilder &page)
     QPushButton *sum = commands.button(QStringLiteral("cmdSumProportions"), QStringLiteral("&Sum Proportions to 1.0"));
     connect(sum, &QPushButton::clicked, this, [this] { m_w.command(QStringLiteral("cmdSumProportions_Click"), [this] { sumProportions(); }); });
     m_dcDietItems = page.hiddenData(QStringLiteral("dcDietItems"));
-    m_grid = page.grid(QStringLiteral("ssGrdDietItems"), m_dcDietItems, {
-        {"Name", "Diet Item"}, {"Wet_Proportion", "Prop of Diet  (0-1) wet", "#.###"},
-        {"WET_WT_KCALG", "Gross Energy (Kcal / g wet wt)"}, {"Dry_Proportion", "Prop of Diet  (0-1) dry", "#.###"},
-        {"DRY_WT_KCALG", "Gross Energy (Kcal / g dry wt)"}, {"WaterPercent", "H2O %", "00.#"},
-        {"GEFoodGroup", "Gross Energy Food Type"}, {"AEFoodGroup", "Assignment Category for GE"},
-        {"Mean", "Assim. Eff. %"}, {"PredatorType", "Predator-Prey Relationship for AE"}, {"Lifestage", "LifeStage"},
-        {"CompDesc", "Component"}, {"Comments", "Notes"}, {"AEReference", "AE Reference"}, {"GEReference", "GE Reference"}},
-        true);
+    m_grid = page.grid(QStringLiteral("ssGrdDietItems"), m_dcDietItems, dietItemColumns(), true);
     connect(m_grid, &DataGrid::HeadClick, this, &BuilderDietPage::columnHelp);
     connect(m_grid, &DataGrid::DblClick, this, [this] { m_w.command(QStringLiteral("cmdEdit_Click"), [this] { editItem(true); }); });
     connect(ControlEvents::of(m_grid), &ControlEvents::KeyDown, this, [this](int &code, int) {

@@ -6,6 +6,7 @@
 #include "DataSourceText.h"
 #include "Diagnostics.h"
 #include "FormBuilder.h"
+#include "IntakeSelection.h"
 #include "Recordset.h"
 #include "Session.h"
 #include "Utilities.h"
@@ -306,13 +307,7 @@ void BuilderIntakePage::selectFromDatabase()
         // An empty taxon is "not found", which is no number: the command fails and is reported.
         const qint32 taxonId = vb::CLng(s.Lookup(QStringLiteral("tblTaxon"), QStringLiteral("TaxonID"),
                                                  QStringLiteral("Description='%1'").arg(taxon)));
-        auto rs = s.gDB->OpenRecordset(
-            QStringLiteral("SELECT tblCategory.CategoryID, tblCategory.Description FROM tblCategory INNER JOIN tblIntakeModel ON "
-                           "tblCategory.CategoryID = tblIntakeModel.CategoryID Where (tblIntakeModel.IntakeTypeID = %1) And "
-                           "((tblIntakeModel.TaxonID) = %2) ORDER BY tblCategory.Description").arg(n + 1).arg(taxonId),
-            RecordsetType::Snapshot);
-        const bool none = rs->BOF() && rs->EOF_();
-        rs->Close();
+        const bool none = !HasIntakeCategory(s, n + 1, taxonId);
         if (none) {
             s.resetCursor();
             s.msgBox(QStringLiteral("No data available"), QString(), MsgIcon::Information);

@@ -4,7 +4,7 @@
 #include "ControlValue.h"
 #include "DataControl.h"
 #include "Diagnostics.h"
-#include "NamesHeader.h"
+#include "Functions.h"
 #include "QtWindowHost.h"
 #include "Recordset.h"
 #include "Session.h"

@@ -7,7 +7,7 @@
 #include "Diagnostics.h"
 #include "Diet.h"
 #include "FormBuilder.h"
-#include "NamesHeader.h"
+#include "Functions.h"
 #include "QtWindowHost.h"
 #include "RecordBinding.h"
 #include "Recordset.h"

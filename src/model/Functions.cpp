@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Functions.h"
 
+#include "Recordset.h"
 #include "Session.h"
 #include "VbError.h"
 #include "VbFormat.h"
@@ -39,4 +40,23 @@ bool ReadFileHeader(Session &s, const QString &path)
     } catch (const VbError &) {
         return false;
     }
+}
+
+QString speciesHeaderText(Session &s, qint32 speciesId, bool *found)
+{
+    auto rs = s.gDB->OpenRecordset(QStringLiteral("SELECT tblTaxon.Description AS Taxon, tblSpecies.Common, tblSpecies.Latin "
+                                                  "FROM tblSpecies LEFT JOIN tblTaxon ON tblSpecies.TaxonID = tblTaxon.TaxonID "
+                                                  "WHERE tblSpecies.SpeciesID = %1")
+                                       .arg(speciesId),
+                                   RecordsetType::Snapshot);
+    QString values[3];
+    if (found)
+        *found = !rs->EOF_();
+    if (!rs->EOF_()) {
+        values[0] = rs->field(QStringLiteral("Taxon")).toString();
+        values[1] = rs->field(QStringLiteral("Common")).toString();
+        values[2] = rs->field(QStringLiteral("Latin")).toString();
+    }
+    rs->Close();
+    return QStringLiteral("Taxon: %1\nCommon Name: %2\nScientific Name: %3").arg(values[0], values[1], values[2]);
 }

@@ -5,6 +5,7 @@
 #include "DataControl.h"
 #include "Diagnostics.h"
 #include "FormBuilder.h"
+#include "Functions.h"
 #include "PickerSupport.h"
 #include "QtWindowHost.h"
 #include "Recordset.h"
@@ -114,20 +115,14 @@ void frmReferenceSpecies::serveRequest()
 
 void frmReferenceSpecies::fillHeader()
 {
-    const QString id = QStringLiteral("SpeciesID = %1").arg(recordRequest().recordId);
-    auto rs = session().gDB->OpenRecordset(QStringLiteral("Select Common, Latin, TaxonID From tblSpecies Where ") + id,
-                                           RecordsetType::Snapshot);
+    bool found = false;
+    const QString header = speciesHeaderText(session(), recordRequest().recordId, &found);
     // A species that is gone has no lists: nothing can be linked to it.
-    if (rs->EOF_()) {
+    if (!found) {
         m_lblHeader->clear();
         throw VbError::noCurrentRecord();
     }
-    const QVariant taxon = rs->field(QStringLiteral("TaxonID"));
-    const QString taxonText = taxon.isNull() ? QString()
-                                             : session().Lookup(QStringLiteral("tblTaxon"), QStringLiteral("Description"),
-                                                                QStringLiteral("TaxonID = ") + vb::CStr(taxon)).toString();
-    m_lblHeader->setText(QStringLiteral("Taxon: %1\nCommon Name: %2\nScientific Name: %3")
-                             .arg(taxonText, rs->field(QStringLiteral("Common")).toString(), rs->field(QStringLiteral("Latin")).toString()));
+    m_lblHeader->setText(header);
 }
 
 void frmReferenceSpecies::loadLists()
