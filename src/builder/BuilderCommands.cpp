@@ -30,7 +30,7 @@ void buildToolbar(frmZOB &w, FormBuilder &b)
         {"Print", "Preview and print the scenario's reports", "Print", [&w] { w.host().show(kReports, true); }},
         {"Calculations", "Review the calculations of the scenario", "Calculations", [&w] { w.calculations(); }},
         {"Help", "Help on the page", "Help", [&w] { w.showHelp(); }},
-    }, [&w](const std::function<void()> &body) { w.command(QStringLiteral("TB_MDI_ButtonClick"), body); });
+    }, [&w](const std::function<void()> &body) { w.runCommand(QStringLiteral("TB_MDI_ButtonClick"), body); });
     if (!QtWindowHost::isRegistered(kReports)) {
         tb->button(QStringLiteral("Print"))->setEnabled(false);
         tb->button(QStringLiteral("Print"))->setToolTip(missingWindowTip(kReports));
@@ -44,7 +44,7 @@ void buildMenus(frmZOB &w)
     w.layout()->setMenuBar(bar);
     auto options = [](int i) { return arrayName(QStringLiteral("mnuFileOptions"), i); };
     auto file = [&w](std::function<void()> body) {
-        return [&w, body] { w.command(QStringLiteral("mnuFileOptions_Click"), body); };
+        return [&w, body] { w.runCommand(QStringLiteral("mnuFileOptions_Click"), body); };
     };
     addMenu(bar, QStringLiteral("mnuFile"), QStringLiteral("&File"), {
         // Unlike the toolbar's New, the menu's goes back to the first pages.

@@ -78,7 +78,7 @@ void BuilderDietPage::buildDiet(FormBuilder &page)
 void BuilderDietPage::buildItems(FormBuilder &page)
 {
     FormBuilder commands = page.row(0, QStringLiteral("fraDietItemCommands"));
-    const QList<QPushButton *> edit = m_w.pageButtons(commands, QStringLiteral("cmdEdit"), {
+    const QList<QPushButton *> edit = m_w.commandButtons(commands, QStringLiteral("cmdEdit"), {
         {0, QStringLiteral("&Add Diet Item"), [this] { editItem(false); }},
         {1, QStringLiteral("&Modify Current Diet Item"), [this] { editItem(true); }}});
     if (!QtWindowHost::isRegistered(kDietItemWindow)) {
@@ -89,11 +89,11 @@ void BuilderDietPage::buildItems(FormBuilder &page)
     }
     commands.stretch();
     QPushButton *sum = commands.button(QStringLiteral("cmdSumProportions"), QStringLiteral("&Sum Proportions to 1.0"));
-    connect(sum, &QPushButton::clicked, this, [this] { m_w.command(QStringLiteral("cmdSumProportions_Click"), [this] { sumProportions(); }); });
+    connect(sum, &QPushButton::clicked, this, [this] { m_w.runCommand(QStringLiteral("cmdSumProportions_Click"), [this] { sumProportions(); }); });
     m_dcDietItems = page.hiddenData(QStringLiteral("dcDietItems"));
     m_grid = page.grid(QStringLiteral("ssGrdDietItems"), m_dcDietItems, dietItemColumns(), true);
     connect(m_grid, &DataGrid::HeadClick, this, &BuilderDietPage::columnHelp);
-    connect(m_grid, &DataGrid::DblClick, this, [this] { m_w.command(QStringLiteral("cmdEdit_Click"), [this] { editItem(true); }); });
+    connect(m_grid, &DataGrid::DblClick, this, [this] { m_w.runCommand(QStringLiteral("cmdEdit_Click"), [this] { editItem(true); }); });
     connect(ControlEvents::of(m_grid), &ControlEvents::KeyDown, this, [this](int &code, int) {
         if (code == 46)
             deleteItem();

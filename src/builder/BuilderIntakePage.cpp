@@ -75,7 +75,7 @@ void BuilderIntakePage::buildType(FormBuilder &page, int n)
     page.label(QStringLiteral("LbLDataSource"), 3 + n, QString());
     QWidget *comments = m_w.noteBox(page, 3 + n, QString::fromLatin1(kTypes[n].comments), 5);
     // A typed rate is written when its box is left; so are the rates when the sediment comment is.
-    auto save = [this] { m_w.command(QStringLiteral("SaveIntakeControls"), [this] { SaveIntakeControls(); }); };
+    auto save = [this] { m_w.runCommand(QStringLiteral("SaveIntakeControls"), [this] { SaveIntakeControls(); }); };
     connect(ControlEvents::of(m_rate[n]), &ControlEvents::LostFocus, this, save);
     if (n == 4)
         connect(ControlEvents::of(comments), &ControlEvents::LostFocus, this, save);

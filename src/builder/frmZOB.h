@@ -74,13 +74,6 @@ public:
     QPlainTextEdit *notes(int index) const { return m_notes[index]; }
     //! A note box txtNotes(index) under its caption: blue text, double click to enlarge.
     QPlainTextEdit *noteBox(FormBuilder &b, int index, const QString &caption, int lines, const QString &labelName = {});
-    //! Runs a command of a page under the window's error handler as routine.
-    void command(const QString &routine, const std::function<void()> &body) { runCommand(routine, body); }
-    //! The buttons of a control array of a page, each under the window's error handler.
-    QList<QPushButton *> pageButtons(FormBuilder &b, const QString &name, const QList<CommandButton> &buttons)
-    {
-        return commandButtons(b, name, buttons);
-    }
     //! The command row of page p: cmdSelect(2p) from the database, cmdSelect(2p + 1) hypothetical data,
     //! and cmdMoreInfo(p).
     void pageCommands(FormBuilder &page, int p, const std::function<void()> &fromDatabase,

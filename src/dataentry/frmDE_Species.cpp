@@ -62,7 +62,7 @@ void frmDE_Species::connectCommands()
     for (int page = 0; page < 3; ++page) {
         RecordBinding *r = m_pages->records[page];
         connect(r->dataControl(), &DataControl::Reposition, this, [this, page, r] {
-            command(QStringLiteral("dc_Reposition"), [=, this] {
+            runCommand(QStringLiteral("dc_Reposition"), [=, this] {
                 r->showRow();
                 DataControl *dc = r->dataControl();
                 dc->setCaption(QString::fromLatin1(kPositions[page]).arg(dc->currentRow() + 1).arg(dc->rowCount()));
@@ -71,23 +71,23 @@ void frmDE_Species::connectCommands()
                 SetPageLock(page);
             });
         });
-        connect(r->dataControl(), &DataControl::leavingRow, this, [this, r] { command(QStringLiteral("dc_Validate"), [r] { r->writeRow(); }); });
+        connect(r->dataControl(), &DataControl::leavingRow, this, [this, r] { runCommand(QStringLiteral("dc_Validate"), [r] { r->writeRow(); }); });
     }
     // Leaving a page writes what was typed on it, as leaving its row does.
     connect(m_pages->tabs, &QTabWidget::currentChanged, this, [this](int page) {
         writeRecords();
-        command(QStringLiteral("ssTabSB_Click"), [=, this] { SetPageLock(page); });
+        runCommand(QStringLiteral("ssTabSB_Click"), [=, this] { SetPageLock(page); });
     });
     connect(m_pages->dietTabs, &QTabWidget::currentChanged, this, [this] {
         writeRecords();
-        command(QStringLiteral("ssTabDiet_Click"), [this] { SetPageLock(2); });
+        runCommand(QStringLiteral("ssTabDiet_Click"), [this] { SetPageLock(2); });
     });
     for (int i = 0; i < m_pages->cmdRef.size(); ++i)
-        connect(m_pages->cmdRef[i], &QPushButton::clicked, this, [this, i] { command(QStringLiteral("cmdRef_Click"), [=, this] { referenceCommand(i); }); });
+        connect(m_pages->cmdRef[i], &QPushButton::clicked, this, [this, i] { runCommand(QStringLiteral("cmdRef_Click"), [=, this] { referenceCommand(i); }); });
     for (int i = 0; i < 3; ++i)
-        connect(m_pages->cmdEdit[i], &QPushButton::clicked, this, [this, i] { command(QStringLiteral("cmdEdit_Click"), [=, this] { editCommand(i); }); });
+        connect(m_pages->cmdEdit[i], &QPushButton::clicked, this, [this, i] { runCommand(QStringLiteral("cmdEdit_Click"), [=, this] { editCommand(i); }); });
     connect(m_pages->cmdAdd, &QPushButton::clicked, this, [this] {
-        command(QStringLiteral("cmdAdd_Click"), [this] {
+        runCommand(QStringLiteral("cmdAdd_Click"), [this] {
             RecordRequest r;
             r.recordId = speciesId();
             r.table = QStringLiteral("tblSpecies");
@@ -100,7 +100,7 @@ void frmDE_Species::connectCommands()
         });
     });
     connect(m_pages->ssGrdDietItems, &DataGrid::DblClick, this, [this] {
-        command(QStringLiteral("ssGrdDietItems_DblClick"), [this] {
+        runCommand(QStringLiteral("ssGrdDietItems_DblClick"), [this] {
             // The items of a vetted diet are not opened from the grid.
             const QString ds = m_pages->diet->currentValue(QStringLiteral("DataSourceID")).toString();
             if (ds == QLatin1String("4") || ds == QLatin1String("7"))
@@ -110,17 +110,17 @@ void frmDE_Species::connectCommands()
     });
     connect(ControlEvents::of(m_pages->ssGrdDietItems), &ControlEvents::KeyDown, this, [this](int &code, int) {
         if (code == 46)
-            command(QStringLiteral("ssGrdDietItems_KeyDown"), [this] { deleteDietItem(); });
+            runCommand(QStringLiteral("ssGrdDietItems_KeyDown"), [this] { deleteDietItem(); });
     });
     // A double click on a text shows it large; on a locked page for reading only.
     for (QWidget *memo : std::as_const(m_pages->memos))
         connect(ControlEvents::of(memo), &ControlEvents::DblClick, this, [this, memo] {
-            command(QStringLiteral("txtRef_DblClick"), [this, memo] {
+            runCommand(QStringLiteral("txtRef_DblClick"), [this, memo] {
                 if (auto *zoom = host().link<TextZoom>(QStringLiteral("frmZoom")))
                     zoom->ZoomText(memo, QStringLiteral("Text Editor"), ControlValue::locked(memo));
             });
         });
-    connect(m_pages->ssGridMeasurement, &DataGrid::DblClick, this, [this] { command(QStringLiteral("cmdEdit_Click"), [this] { editCommand(0); }); });
+    connect(m_pages->ssGridMeasurement, &DataGrid::DblClick, this, [this] { runCommand(QStringLiteral("cmdEdit_Click"), [this] { editCommand(0); }); });
 }
 
 void frmDE_Species::Form_Load()
@@ -144,7 +144,7 @@ void frmDE_Species::Form_Unload(bool &cancel)
 void frmDE_Species::writeRecords()
 {
     for (RecordBinding *r : std::as_const(m_pages->records))
-        command(QStringLiteral("dc_Validate"), [r] { r->writeRow(); });
+        runCommand(QStringLiteral("dc_Validate"), [r] { r->writeRow(); });
 }
 
 bool frmDE_Species::editable(const QVariant &dataSource)

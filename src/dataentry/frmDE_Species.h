@@ -46,7 +46,6 @@ private:
     void addRow(int page);
     void writeRecords();
     void connectCommands();
-    void command(const QString &routine, const std::function<void()> &body) { runCommand(routine, body); }
 
     WorkbookPages *m_pages;
     QLabel *m_lblHeader;

@@ -115,16 +115,19 @@ signals:
     //! The window was hidden (end of a modal showing).
     void hidden();
 
-protected:
-    //! The window's toolbar, from a table: each handler runs under the window's error handler as
-    //! routine (the legacy "TB_MDI_ButtonClick"), and the busy cursor is reset after it.
-    ZobToolbar *buildToolbar(FormBuilder &builder, const QList<ToolButton> &places,
-                             const QString &routine = QStringLiteral("TB_MDI_ButtonClick"));
+public:
+    // The window's commands, also for the components that make up a large window's pages.
     //! The buttons name(index) of a control array, made in the order of the table; each handler runs
     //! under the window's error handler as routine (the legacy "<name>_Click").
     QList<QPushButton *> commandButtons(FormBuilder &builder, const QString &name, const QList<CommandButton> &buttons);
     //! Runs body under the window's error handler as routine, then resets the busy cursor.
     void runCommand(const QString &routine, const std::function<void()> &body);
+
+protected:
+    //! The window's toolbar, from a table: each handler runs under the window's error handler as
+    //! routine (the legacy "TB_MDI_ButtonClick"), and the busy cursor is reset after it.
+    ZobToolbar *buildToolbar(FormBuilder &builder, const QList<ToolButton> &places,
+                             const QString &routine = QStringLiteral("TB_MDI_ButtonClick"));
 
     void closeEvent(QCloseEvent *event) override;
     void hideEvent(QHideEvent *event) override;
