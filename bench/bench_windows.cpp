@@ -270,13 +270,13 @@ QList<Figure> measureStore(const QString &database)
     volatile int sink = 0;
     const double lookup = perCallMicros(n, [&](int i) {
         sink = sink + s.Lookup(QStringLiteral("tblSpecies"), QStringLiteral("Common"),
-                               QStringLiteral("SpeciesID = %1").arg(1 + i % species)).toString().size();
+                               QStringLiteral("SpeciesID = ") + QString::number(1 + i % species)).toString().size();
     });
     const double lookupC = cBaseline("SELECT Common FROM tblSpecies WHERE SpeciesID = ?1",
                                      [&](sqlite3_stmt *st, int i) { sqlite3_bind_int(st, 1, 1 + i % species); });
     out << Figure{QStringLiteral("Lookup tblSpecies.Common by key (us)"), lookup, lookupC, 1};
     const double open = perCallMicros(n, [&](int i) {
-        auto rs = s.gDB->OpenRecordset(QStringLiteral("Select * from tblSpecies Where SpeciesID = %1").arg(1 + i % species),
+        auto rs = s.gDB->OpenRecordset(QStringLiteral("Select * from tblSpecies Where SpeciesID = ") + QString::number(1 + i % species),
                                        RecordsetType::Snapshot);
         sink = sink + rs->RecordCount();
     });

@@ -227,17 +227,9 @@ QVariant Session::Lookup(const QString &table, const QString &field, const QStri
     QVariant result;
     guarded(*this, {ErrForm::Shared, QStringLiteral("Lookup")}, [&] {
         // The database finds the row: text columns compare without case, as FindFirst's criteria do.
-        QString sql = QStringLiteral("SELECT [%1] FROM [%2]").arg(field, table);
-        if (!criteria.trimmed().isEmpty())
-            sql += QStringLiteral(" WHERE ") + criteria;
-        auto rs = gDB->OpenRecordset(sql, RecordsetType::Snapshot);
-        if (rs->EOF_()) {
-            result = kNotFound;
-        } else {
-            const QVariant v = rs->field(0);
-            result = v.isNull() ? QVariant(kNotFound) : v;
-        }
-        rs->Close();
+        bool found = false;
+        const QVariant v = gDB->lookupValue(table, field, criteria, &found);
+        result = !found || v.isNull() ? QVariant(kNotFound) : v;
     });
     return result;
 }

@@ -18,15 +18,21 @@ struct Database::TableInfo {
 
 struct Database::Cache {
     QHash<QString, TableInfo> tables;   // lower-case table name -> info
-    struct Prepared {
-        sqlite3_stmt *stmt = nullptr;
-        bool inUse = false;
-    };
-    QHash<QByteArray, Prepared> statements;       // SQL text -> its statement
-    QHash<sqlite3_stmt *, QByteArray> cachedText; // statement -> its key, for the statements cached
+    // A statement is cached under its text; a cached statement is in use from prepareCached until
+    // releaseCached. The flag is found by the statement's pointer, which is quicker than by its text.
+    QHash<QByteArray, sqlite3_stmt *> statements;   // SQL text -> its statement
+    QHash<sqlite3_stmt *, bool> inUse;              // cached statement -> handed out now
     QList<Recordset *> reading;                   // recordsets with a statement still being read
     int writeAheadLog = -1;                       // 1 in write-ahead-log mode, 0 not, -1 not asked yet
-    QHash<QString, QString> translations;         // Jet SELECT -> its SQLite text
+    SqlParameters taken;   // the numbers of the statement being opened, its text reused from the last
+    QHash<QString, SqlText> translations;   // Jet SELECT -> its SQLite text
+    QHash<QString, SqlText> lookups;        // table, field and criteria without numbers -> the lookup's statement
+    QString lookupKey;                      // the key of the lookup being made, its capacity reused
+    // The last statement asked for, which a lookup or a list asks for again with other numbers: found
+    // by comparing texts instead of hashing them.
+    QString lastJet;
+    SqlText lastSql;
+    sqlite3_stmt *lastStmt = nullptr;   // cached under lastSql.utf8
     QHash<QByteArray, std::shared_ptr<const RecordsetShape>> shapes;   // SQLite SELECT -> its result shape
 };
 
@@ -124,8 +130,8 @@ Database::Database(QString path, sqlite3 *db) : m_path(std::move(path)), m_db(db
 Database::~Database()
 {
     finishReading();
-    for (const auto &p : std::as_const(m_cache->statements))
-        sqlite3_finalize(p.stmt);
+    for (sqlite3_stmt *stmt : std::as_const(m_cache->statements))
+        sqlite3_finalize(stmt);
     m_cache->statements.clear();
     if (m_db)
         sqlite3_close_v2(m_db);
@@ -136,7 +142,8 @@ std::shared_ptr<Database> Database::open(const QString &path)
     if (!QFileInfo(path).isFile())
         throw VbError(VbErr::CouldNotFindFile, QStringLiteral("Could not find file '%1'.").arg(path));
     sqlite3 *db = nullptr;
-    const int rc = sqlite3_open_v2(path.toUtf8().constData(), &db, SQLITE_OPEN_READWRITE, nullptr);
+    // The program uses its connection from one thread only: SQLite need not lock it around each call.
+    const int rc = sqlite3_open_v2(path.toUtf8().constData(), &db, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr);
     if (rc != SQLITE_OK) {
         const QString msg = db ? sqliteMessage(db) : QStringLiteral("out of memory");
         sqlite3_close_v2(db);
@@ -162,7 +169,8 @@ std::shared_ptr<Database> Database::open(const QString &path)
 std::shared_ptr<Database> Database::create(const QString &path)
 {
     sqlite3 *db = nullptr;
-    const int rc = sqlite3_open_v2(path.toUtf8().constData(), &db, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr);
+    const int rc = sqlite3_open_v2(path.toUtf8().constData(), &db,
+                                   SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_NOMUTEX, nullptr);
     if (rc != SQLITE_OK) {
         const QString msg = db ? sqliteMessage(db) : QStringLiteral("out of memory");
         sqlite3_close_v2(db);
@@ -378,8 +386,8 @@ void Database::Transaction::commit()
 std::unique_ptr<Recordset> Database::OpenRecordset(const QString &source, RecordsetType type)
 {
     const QString trimmed = source.trimmed();
-    QString sql;
-    SqlParameters params;
+    SqlText sql;
+    SqlValues params;
     // A bare table name opens the whole table, as DAO does.
     const bool isName = !trimmed.isEmpty() && !trimmed.contains(QLatin1Char(' ')) && !trimmed.contains(QLatin1Char('('));
     if (isName) {
@@ -389,32 +397,79 @@ std::unique_ptr<Recordset> Database::OpenRecordset(const QString &source, Record
         if (!hasTable(name))
             throw VbError(VbErr::InputTableNotFound,
                           QStringLiteral("The Microsoft Jet database engine cannot find the input table or query '%1'.").arg(name));
-        sql = QStringLiteral("SELECT * FROM \"%1\"").arg(name);
+        sql.text = QStringLiteral("SELECT * FROM \"%1\"").arg(name);
+        sql.utf8 = sql.text.toUtf8();
     } else {
-        // Statements that differ only in the numbers they compare share a translation and a
-        // prepared statement; the numbers are bound.
-        params = takeComparedNumbers(trimmed);
-        sql = translated(params.templateText, static_cast<int>(params.values.size()));
-        if (sql.isNull()) {
-            params.values.clear();
-            sql = translated(trimmed, 0);
-        }
+        sql = translatedSelect(trimmed, params);
     }
-    std::unique_ptr<Recordset> rs(new Recordset(this, source, sql, type));
-    rs->m_params = std::move(params.values);
+    std::unique_ptr<Recordset> rs(new Recordset(this, source, std::move(sql), type));
+    rs->m_params = std::move(params);
     rs->load();
     return rs;
 }
 
-QString Database::translated(const QString &jetSql, int parameters)
+SqlText Database::translatedSelect(const QString &jetSql, SqlValues &params)
+{
+    // Statements that differ only in the numbers they compare share a translation and a prepared
+    // statement; the numbers are bound.
+    SqlParameters &taken = m_cache->taken;
+    takeComparedNumbers(jetSql, taken);
+    SqlText sql = translated(taken.templateText, static_cast<int>(taken.values.size()));
+    if (sql.text.isNull()) {
+        params.clear();
+        return translated(jetSql, 0);
+    }
+    params = std::move(taken.values);
+    return sql;
+}
+
+QString Database::lookupSql(const QString &table, const QString &field, const QString &criteria)
+{
+    const QString sql = QStringLiteral("SELECT [%1] FROM [%2]").arg(field, table);
+    return QStringView(criteria).trimmed().isEmpty() ? sql : sql + QStringLiteral(" WHERE ") + criteria;
+}
+
+SqlText Database::lookupStatement(const QString &table, const QString &field, const QString &criteria, SqlValues &params)
+{
+    // Lookups run by the thousand in calculations and lists, mostly with the same table, field and
+    // criteria but other numbers. Only the criteria can hold numbers, so only they are read for them,
+    // and the statement is found by table, field and the criteria without their numbers.
+    SqlParameters &taken = m_cache->taken;
+    takeComparedNumbers(criteria, taken);
+    QString &key = m_cache->lookupKey;
+    key.resize(0);
+    key.append(table).append(QChar(0)).append(field).append(QChar(0)).append(taken.templateText);
+    params = std::move(taken.values);
+    auto it = m_cache->lookups.constFind(key);
+    if (it == m_cache->lookups.constEnd()) {
+        SqlText sql = translated(lookupSql(table, field, taken.templateText), static_cast<int>(params.size()));
+        if (m_cache->lookups.size() >= 4 * kStatementCacheLimit)
+            m_cache->lookups.clear();
+        it = m_cache->lookups.insert(QString(key.constData(), key.size()), sql);
+    }
+    if (it.value().text.isNull()) {   // the numbers could not be taken out: the statement with its numbers
+        params.clear();
+        return translated(lookupSql(table, field, criteria), 0);
+    }
+    return it.value();
+}
+
+SqlText Database::translated(const QString &jetSql, int parameters)
 {
     // Windows and lookups open the same few statements over and over: each is translated once.
+    if (jetSql == m_cache->lastJet && !m_cache->lastJet.isNull())
+        return m_cache->lastSql;
     auto it = m_cache->translations.constFind(jetSql);
-    if (it != m_cache->translations.constEnd())
+    if (it != m_cache->translations.constEnd()) {
+        m_cache->lastJet = QString(jetSql.constData(), jetSql.size());   // a copy of its own: jetSql may be a reused buffer
+        m_cache->lastSql = it.value();
+        m_cache->lastStmt = nullptr;
         return it.value();
-    QString sql = translateJetSql(jetSql);
-    if (parameters > 0 && !markersToParameters(sql, parameters))
-        sql = QString();   // the caller translates the statement with its numbers instead
+    }
+    SqlText sql{translateJetSql(jetSql), {}};
+    if (parameters > 0 && !markersToParameters(sql.text, parameters))
+        sql.text = QString();   // the caller translates the statement with its numbers instead
+    sql.utf8 = sql.text.toUtf8();
     if (m_cache->translations.size() >= 4 * kStatementCacheLimit)
         m_cache->translations.clear();
     m_cache->translations.insert(jetSql, sql);
@@ -479,29 +534,46 @@ void Database::clearSchemaCache()
 int Database::prepareCached(const QByteArray &sql, sqlite3_stmt **out)
 {
     *out = nullptr;
-    auto it = m_cache->statements.find(sql);
-    if (it != m_cache->statements.end() && !it->inUse) {
-        it->inUse = true;
-        *out = it->stmt;
-        return SQLITE_OK;
+    if (m_cache->lastStmt && sql.constData() == m_cache->lastSql.utf8.constData()) {
+        bool &busy = m_cache->inUse[m_cache->lastStmt];
+        if (!busy) {
+            busy = true;
+            *out = m_cache->lastStmt;
+            return SQLITE_OK;
+        }
+    }
+    const auto it = m_cache->statements.constFind(sql);
+    if (it != m_cache->statements.constEnd()) {
+        bool &busy = m_cache->inUse[it.value()];
+        if (!busy) {
+            busy = true;
+            *out = it.value();
+            if (sql.constData() == m_cache->lastSql.utf8.constData())
+                m_cache->lastStmt = *out;
+            return SQLITE_OK;
+        }
     }
     const int rc = prepareFirst(m_db, sql, out, QString::fromUtf8(sql));
-    if (rc != SQLITE_OK || it != m_cache->statements.end())
+    if (rc != SQLITE_OK || it != m_cache->statements.constEnd())
         return rc;   // a failure, or a second user of a statement in use: not cached
     if (m_cache->statements.size() >= kStatementCacheLimit) {
         // Forget the statements nobody holds; the busy ones stay until they are handed back.
         for (auto e = m_cache->statements.begin(); e != m_cache->statements.end();) {
-            if (e->inUse) {
+            if (m_cache->inUse.value(e.value())) {
                 ++e;
                 continue;
             }
-            m_cache->cachedText.remove(e->stmt);
-            sqlite3_finalize(e->stmt);
+            m_cache->inUse.remove(e.value());
+            if (e.value() == m_cache->lastStmt)
+                m_cache->lastStmt = nullptr;
+            sqlite3_finalize(e.value());
             e = m_cache->statements.erase(e);
         }
     }
-    m_cache->statements.insert(sql, {*out, true});
-    m_cache->cachedText.insert(*out, sql);
+    m_cache->statements.insert(sql, *out);
+    m_cache->inUse.insert(*out, true);
+    if (sql.constData() == m_cache->lastSql.utf8.constData())
+        m_cache->lastStmt = *out;
     return rc;
 }
 
@@ -509,12 +581,12 @@ void Database::releaseCached(sqlite3_stmt *stmt)
 {
     if (!stmt)
         return;
-    auto key = m_cache->cachedText.constFind(stmt);
-    if (key == m_cache->cachedText.constEnd()) {
+    const auto busy = m_cache->inUse.find(stmt);
+    if (busy == m_cache->inUse.end()) {
         sqlite3_finalize(stmt);
         return;
     }
+    // Every use binds all of a statement's parameters, so the old values need no clearing.
     sqlite3_reset(stmt);
-    sqlite3_clear_bindings(stmt);
-    m_cache->statements[key.value()].inUse = false;
+    busy.value() = false;
 }

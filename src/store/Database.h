@@ -32,6 +32,10 @@ public:
 
     //! Opens a recordset on a table name or a Jet SELECT statement.
     std::unique_ptr<Recordset> OpenRecordset(const QString &source, RecordsetType type = RecordsetType::Dynaset);
+    //! The value of column field in the first row of table that meets the Jet criteria (every row when
+    //! they are empty), read as a snapshot recordset reads it, without making one. found is false when
+    //! no row meets them.
+    QVariant lookupValue(const QString &table, const QString &field, const QString &criteria, bool *found);
 
     //! Runs one action statement. With failOnError (dbFailOnError) any error throws; without it, as in
     //! DAO, a statement that is syntactically wrong still throws, but constraint failures on single rows
@@ -115,7 +119,12 @@ private:
     const TableInfo *tableInfo(const QString &table);
     //! The SQLite text of a Jet statement whose first `parameters` compared numbers are markers (see
     //! SqlParameters), cached; null when the markers did not come through.
-    QString translated(const QString &jetSql, int parameters);
+    SqlText translated(const QString &jetSql, int parameters);
+    //! A Jet SELECT in SQLite's dialect, with the numbers it compares taken out into params.
+    SqlText translatedSelect(const QString &jetSql, SqlValues &params);
+    //! The statement of a lookup, with the numbers of its criteria taken out into params.
+    SqlText lookupStatement(const QString &table, const QString &field, const QString &criteria, SqlValues &params);
+    static QString lookupSql(const QString &table, const QString &field, const QString &criteria);
     //! Before a statement that writes: open statements are read to the end (and before one that may
     //! change the schema, the result shapes are forgotten too).
     void beforeStatement(const QString &sql);

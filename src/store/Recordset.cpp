@@ -37,6 +37,19 @@ ColumnKind kindOf(const QString &declType)
     return ColumnKind::Other;
 }
 
+//! The kind as far as readValue tells kinds apart (yes/no and dates), from a declared type as SQLite
+//! gives it, without making text of it.
+ColumnKind readKindOf(const char *decl)
+{
+    if (!decl)
+        return ColumnKind::Other;
+    if (qstrnicmp(decl, "BOOL", 4) == 0 || qstricmp(decl, "YESNO") == 0)
+        return ColumnKind::Boolean;
+    if (qstrnicmp(decl, "DATE", 4) == 0 || qstrnicmp(decl, "TIME", 4) == 0)
+        return ColumnKind::Date;
+    return ColumnKind::Other;
+}
+
 //! Reads the stored form "yyyy-MM-dd HH:mm:ss" (or a date alone) without the general date parser,
 //! which is slow enough to show in grids of many rows.
 QDateTime parseStoredDate(const QString &text)
@@ -288,15 +301,16 @@ RecordsetShape shapeOf(sqlite3_stmt *stmt, const QString &sql)
 
 }  // namespace
 
-Recordset::Recordset(Database *db, QString jetSource, QString sqliteSql, RecordsetType type)
-    : m_db(db), m_sourceSql(std::move(jetSource)), m_sql(std::move(sqliteSql)), m_type(type) {}
+Recordset::Recordset(Database *db, QString jetSource, SqlText sqliteSql, RecordsetType type)
+    : m_db(db), m_sourceSql(std::move(jetSource)), m_sql(std::move(sqliteSql.text)), m_sqlUtf8(std::move(sqliteSql.utf8)),
+      m_type(type) {}
 
 Recordset::~Recordset() { finishReading(); }
 
 void Recordset::load()
 {
     finishReading();
-    const QByteArray sql = m_sql.toUtf8();
+    const QByteArray &sql = m_sqlUtf8;
     std::shared_ptr<const RecordsetShape> shape = m_db->shapeOf(sql);
     const bool writable = m_type != RecordsetType::Snapshot;
     // A statement seen before whose rows can be written back goes straight to its keyed form.
@@ -379,6 +393,25 @@ void Recordset::bindParameters(sqlite3_stmt *stmt) const
 {
     for (int i = 0; i < m_params.size(); ++i)
         bindValue(stmt, i + 1, m_params[i]);
+}
+
+QVariant Database::lookupValue(const QString &table, const QString &field, const QString &criteria, bool *found)
+{
+    // The statement is read and handed back at once, so it never joins the reads still going on.
+    SqlValues params;
+    const SqlText sql = lookupStatement(table, field, criteria, params);
+    Statement st;
+    if (st.prepare(this, sql.utf8) != SQLITE_OK)
+        raiseLastError(lookupSql(table, field, criteria));
+    for (int i = 0; i < params.size(); ++i)
+        bindValue(st.stmt, i + 1, params[i]);
+    const int rc = sqlite3_step(st.stmt);
+    if (rc != SQLITE_ROW && rc != SQLITE_DONE)
+        raiseLastError(lookupSql(table, field, criteria));
+    *found = rc == SQLITE_ROW;
+    if (!*found)
+        return {};
+    return readValue(st.stmt, 0, readKindOf(sqlite3_column_decltype(st.stmt, 0)));
 }
 
 bool Recordset::readRow()

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "SqlParameters.h"
+
 #include <QString>
 #include <QStringList>
 #include <QVariant>
@@ -23,6 +25,12 @@ struct RecordsetShape {
 };
 
 //! DAO recordset types: dynaset (2) can be written when it rests on one table; snapshot (4) never.
+//! A statement in SQLite's dialect, with its text as SQLite takes it.
+struct SqlText {
+    QString text;
+    QByteArray utf8;
+};
+
 enum class RecordsetType { Table = 1, Dynaset = 2, Snapshot = 4 };
 
 //! A DAO-style recordset over the result of one statement.
@@ -114,7 +122,7 @@ public:
 
 private:
     friend class Database;
-    Recordset(Database *db, QString jetSource, QString sqliteSql, RecordsetType type);
+    Recordset(Database *db, QString jetSource, SqlText sqliteSql, RecordsetType type);
     void load();
     int indexOf(const QString &name) const;
     void requireCurrent() const;
@@ -128,7 +136,8 @@ private:
     Database *m_db;
     QString m_sourceSql;   // as given (Jet)
     QString m_sql;         // translated
-    QVector<QVariant> m_params;   // values of ?1..?n in m_sql
+    QByteArray m_sqlUtf8;  // the same, as SQLite takes it
+    SqlValues m_params;   // values of ?1..?n in m_sql
     RecordsetType m_type;
     QStringList m_columns;
     QStringList m_originColumns;   // column in the base table, per column ("" if computed)

@@ -157,6 +157,34 @@ TEST_F(RecordsetTest, ColumnsOfNestedJoinsKeepTheirPlainNames)
     EXPECT_EQ(rs->field(QStringLiteral("Name")).toString(), QStringLiteral("Cedar"));
 }
 
+TEST_F(RecordsetTest, StatementsThatDifferOnlyInTheirNumbersShareOneButKeepTheirOwnValues)
+{
+    auto value = [&](const QString &field, const QString &criteria) {
+        bool found = false;
+        const QVariant v = db->lookupValue(QStringLiteral("tblThing"), field, criteria, &found);
+        return found ? v : QVariant(QStringLiteral("<none>"));
+    };
+    // One shared statement, each lookup with its own numbers; digits in a quoted text or a name stay.
+    EXPECT_EQ(value(QStringLiteral("Name"), QStringLiteral("ThingID = 2")).toString(), QStringLiteral("birch"));
+    EXPECT_EQ(value(QStringLiteral("Name"), QStringLiteral("ThingID = 3")).toString(), QStringLiteral("Cedar"));
+    EXPECT_EQ(value(QStringLiteral("Name"), QStringLiteral("ThingID = 9")).toString(), QStringLiteral("<none>"));
+    EXPECT_EQ(value(QStringLiteral("ThingID"), QStringLiteral("Name = 'birch' And Amount > 2.25")).toInt(), 2);
+    EXPECT_EQ(value(QStringLiteral("ThingID"), QStringLiteral("Name = '3' Or Kind = 7")).toInt(), 2);
+    EXPECT_EQ(value(QStringLiteral("Amount"), QStringLiteral("")).toDouble(), 1.5);   // no criteria: the first row
+    EXPECT_EQ(value(QStringLiteral("Flag"), QStringLiteral("ThingID = 1")).typeId(), QMetaType::Bool);
+    // Text that looks like the marker the numbers are replaced by: the statement is run with its numbers.
+    EXPECT_EQ(value(QStringLiteral("Name"), QStringLiteral("Name = '90817263544536001' Or ThingID = 1")).toString(),
+              QStringLiteral("Alder"));
+    EXPECT_EQ(value(QStringLiteral("Name"), QStringLiteral("ThingID = 90817263544536001 Or ThingID = 3")).toString(),
+              QStringLiteral("Cedar"));
+    for (int id : {1, 2, 3}) {
+        auto rs = db->OpenRecordset(QStringLiteral("Select Name, Kind from tblThing Where ThingID = ") + QString::number(id));
+        EXPECT_EQ(rs->field(0).toString(), (QStringList{"Alder", "birch", "Cedar"}[id - 1]));
+    }
+    bool found = true;
+    EXPECT_THROW(db->lookupValue(QStringLiteral("tblNothing"), QStringLiteral("Name"), QString(), &found), VbError);
+}
+
 TEST_F(RecordsetTest, FindUsesJetCriteriaWithoutRegardToCase)
 {
     auto rs = db->OpenRecordset(QStringLiteral("tblThing"), RecordsetType::Snapshot);
