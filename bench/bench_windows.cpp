@@ -103,7 +103,9 @@ void printTable(const char *title, const QList<Figure> &normal, const QList<Figu
         // A window without statements has no ratio: only the fixed 10 ms applies to it.
         auto ratio = [](const Figure &f) { return f.statements ? QString::number(f.appMs / f.sqlMs, 'f', 2) : QStringLiteral("-"); };
         // A time stopped at the budget is a lower bound.
-        auto time = [unit](double ms, bool stopped) { return QStringLiteral("%1%2%3").arg(stopped ? ">" : "").arg(ms, 0, 'f', 2).arg(QLatin1String(unit)); };
+        auto time = [unit](double ms, bool stopped) {
+            return QStringLiteral("%1%2%3").arg(stopped ? ">" : "").arg(ms, 0, 'f', 2).arg(QLatin1String(unit));
+        };
         const bool over = micro ? b.appMs > 2 * b.sqlMs : b.appMs > 2 * b.sqlMs + 10;
         const char *mark = b.appStopped || b.sqlStopped || a.appStopped || a.sqlStopped ? " stopped" : over ? " over" : "";
         std::printf("  %-52s | %9s %9s %6s %5d | %9s %9s %6s %5d | %6.2f%s\n", qPrintable(a.what),

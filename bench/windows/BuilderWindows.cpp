@@ -2,6 +2,7 @@
 // The scenario builder opened on a saved scenario with species, weight and a diet with items, and the
 // dialogs it opens, each with the request the builder gives it.
 #include "Diet.h"
+#include "DialogSupport.h"
 #include "WindowBench.h"
 #include "clsScenario.h"
 
@@ -53,26 +54,16 @@ void benchBuilderWindows(WindowBench &b)
     b.open(builder, nullptr, [&] { reopenScenario(p); });
 
     // The builder's dialogs, opened over it.
-    RecordRequest species;
-    species.recordId = s.gScenario->SID;
-    species.keyField = QStringLiteral("ScenarioID");
-    species.table = QStringLiteral("tblWildlife");
-    species.mode = QStringLiteral("ReadOnly");
+    RecordRequest species =
+        recordOf(QStringLiteral("tblWildlife"), QStringLiteral("ScenarioID"), s.gScenario->SID, QStringLiteral("ReadOnly"));
     species.entry = QStringLiteral("ZOB");
-    const QString speciesList = QStringLiteral("frmSelect_Species");
-    b.open(speciesList, &species);
-    b.sort(speciesList, QStringLiteral("ssGrdMain"), QStringLiteral("Common"), QStringLiteral("Latin"));
-    b.refilterByClicks(speciesList, QStringLiteral("choose a taxon"), QStringLiteral("optSpec(0)"), QStringLiteral("optSpec(1)"));
-    b.close(speciesList);
-
-    RecordRequest read;
-    read.mode = QStringLiteral("Read");
-    const QString weights = QStringLiteral("frmSelect_Weight");
-    b.open(weights, &read);
-    b.sort(weights, QStringLiteral("ssGrdWeight"), QStringLiteral("Mean"), QStringLiteral("Status"));
-    b.refilterByClicks(weights, QStringLiteral("choose a status"), QStringLiteral("optStatus(1)"), QStringLiteral("optStatus(2)"));
-    b.close(weights);
-
+    b.list({QStringLiteral("frmSelect_Species"), QStringLiteral("ssGrdMain"), QStringLiteral("Common"), QStringLiteral("Latin"),
+            QStringLiteral("choose a taxon"), QStringLiteral("optSpec(0)"), QStringLiteral("optSpec(1)")},
+           species);
+    const RecordRequest read = recordOf({}, {}, 0, QStringLiteral("Read"));
+    b.list({QStringLiteral("frmSelect_Weight"), QStringLiteral("ssGrdWeight"), QStringLiteral("Mean"), QStringLiteral("Status"),
+            QStringLiteral("choose a status"), QStringLiteral("optStatus(1)"), QStringLiteral("optStatus(2)")},
+           read);
     b.open(QStringLiteral("frmSelect_Diet"), &read);
     b.close(QStringLiteral("frmSelect_Diet"));
     for (const QString &w : {QStringLiteral("frmFind_Diet"), QStringLiteral("frmSelect_DryWetWeight")}) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The calculation windows on the builder's scenario: the intake dialog for each kind of rate the
 // builder opens it for, the soil ingestion list, the equations list from the menu and the review.
+#include "DialogSupport.h"
 #include "WindowBench.h"
 #include "WindowLinks.h"
 #include "clsScenario.h"
@@ -35,27 +36,15 @@ void benchCalculationWindows(WindowBench &b)
         b.close(intake);
     }
 
-    RecordRequest soil;
-    soil.recordId = 4;
-    soil.mode = QStringLiteral("Write");
-    soil.table = QStringLiteral("tblSoilIngestion");
-    soil.keyField = QStringLiteral("SoilIngestionID");
-    const QString soilList = QStringLiteral("frmSelect_SoilIngestion");
-    b.open(soilList, &soil);
-    b.sort(soilList, QStringLiteral("ssGrdMain"), QStringLiteral("Species"), QStringLiteral("IntakeMean"));
-    b.close(soilList);
+    b.list({QStringLiteral("frmSelect_SoilIngestion"), QStringLiteral("ssGrdMain"), QStringLiteral("Species"),
+            QStringLiteral("IntakeMean")},
+           recordOf(QStringLiteral("tblSoilIngestion"), QStringLiteral("SoilIngestionID"), 4, QStringLiteral("Write")));
     b.close(builder);
 
     // The equations list from the menu, to browse and edit.
-    RecordRequest menu;
-    menu.keyField = QStringLiteral("IntakeModelID");
-    menu.table = QStringLiteral("tblIntakeModel");
-    menu.mode = QStringLiteral("Write");
+    RecordRequest menu = recordOf(QStringLiteral("tblIntakeModel"), QStringLiteral("IntakeModelID"), 0, QStringLiteral("Write"));
     menu.isSelection = false;
-    const QString models = QStringLiteral("frmSelect_IntakeModel");
-    b.open(models, &menu);
-    b.sort(models, QStringLiteral("ssGrdMain"), QStringLiteral("Taxon"), QStringLiteral("a"));
-    b.close(models);
+    b.list({QStringLiteral("frmSelect_IntakeModel"), QStringLiteral("ssGrdMain"), QStringLiteral("Taxon"), QStringLiteral("a")}, menu);
 
     // The review as the builder's Calculations command opens it: asked for rows first, then shown;
     // its basis dialog is answered with OK.

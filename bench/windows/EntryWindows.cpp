@@ -2,6 +2,7 @@
 // The entry windows of the reference tables, each opened on the first record of its table as a
 // picker's double click opens it, the measurements of a gross energy record over its entry window,
 // and the species workbook, the diet item, the equation and the descriptor windows.
+#include "DialogSupport.h"
 #include "WindowBench.h"
 #include "frmDE_Measurement.h"
 
@@ -32,11 +33,8 @@ void benchEntryWindows(WindowBench &b)
 {
     Program &p = b.p;
     for (const Entry &e : kEntries) {
-        RecordRequest r;
-        r.table = QString::fromLatin1(e.table);
-        r.keyField = QString::fromLatin1(e.key);
-        r.recordId = b.firstId(r.table, r.keyField);
-        r.mode = QStringLiteral("Read");
+        const QString table = QString::fromLatin1(e.table), key = QString::fromLatin1(e.key);
+        RecordRequest r = recordOf(table, key, b.firstId(table, key), QStringLiteral("Read"));
         r.isSelection = false;
         const QString window = QString::fromLatin1(e.window);
         b.open(window, &r);
@@ -44,11 +42,8 @@ void benchEntryWindows(WindowBench &b)
     }
 
     // The measurements of the first gross energy record, from its entry window's wet weight button.
-    RecordRequest ge;
-    ge.table = QStringLiteral("tblGrossEnergy");
-    ge.keyField = QStringLiteral("GrossEnergyID");
-    ge.recordId = b.firstId(ge.table, ge.keyField);
-    ge.mode = QStringLiteral("Read");
+    const QString table = QStringLiteral("tblGrossEnergy"), key = QStringLiteral("GrossEnergyID");
+    RecordRequest ge = recordOf(table, key, b.firstId(table, key), QStringLiteral("Read"));
     ge.isSelection = false;
     b.show(QStringLiteral("frmDE_GE"), &ge);
     const QString measurement = QStringLiteral("frmDE_Measurement");

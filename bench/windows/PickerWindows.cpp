@@ -3,6 +3,7 @@
 // to the family (narrowed at the family, widened to the kingdom), the references for a diet, the
 // references of a species, and the classification and its search for a diet item.
 #include "ControlValue.h"
+#include "DialogSupport.h"
 #include "WindowBench.h"
 #include "frmSelect_AE.h"
 #include "frmSelect_GE.h"
@@ -35,11 +36,7 @@ qint32 classifiedItem(WindowBench &b, const QString &table, const QString &key)
 
 RecordRequest dietItemRequest(qint32 item)
 {
-    RecordRequest r;
-    r.recordId = item;
-    r.table = QStringLiteral("tblDietItem");
-    r.keyField = QStringLiteral("DietItemID");
-    r.mode = QStringLiteral("ReadOnly");
+    RecordRequest r = recordOf(QStringLiteral("tblDietItem"), QStringLiteral("DietItemID"), item, QStringLiteral("ReadOnly"));
     r.filter = true;
     return r;
 }
@@ -55,32 +52,22 @@ void benchPickerWindows(WindowBench &b)
         {QStringLiteral("frmSelect_WaterConversion"), frmSelect_WaterConversion::profile(), QStringLiteral("Item")},
         {QStringLiteral("frmSelect_TrophicLevel"), frmSelect_TrophicLevel::profile(), QStringLiteral("Item")}};
     for (const auto &[name, profile, sorted] : filtered) {
-        const RecordRequest r = dietItemRequest(classifiedItem(b, profile.table, profile.key));
-        b.open(name, &r);
-        b.sort(name, QStringLiteral("ssCmbSearch"), profile.key, sorted);
-        b.refilterByClicks(name, QStringLiteral("family / kingdom filter"), QStringLiteral("optFilter(6)"),
-                           QStringLiteral("optFilter(1)"));
-        b.close(name);
+        b.list({name, QStringLiteral("ssCmbSearch"), profile.key, sorted, QStringLiteral("family / kingdom filter"),
+                QStringLiteral("optFilter(6)"), QStringLiteral("optFilter(1)")},
+               dietItemRequest(classifiedItem(b, profile.table, profile.key)));
     }
 
-    const qint32 diet = b.firstId(QStringLiteral("tblDiet"), QStringLiteral("DietID"));
-    RecordRequest forDiet;
-    forDiet.recordId = diet;
-    forDiet.table = QStringLiteral("tblDiet");
-    forDiet.keyField = QStringLiteral("DietID");
-    forDiet.mode = QStringLiteral("Read");
+    const QString diets = QStringLiteral("tblDiet"), diet = QStringLiteral("DietID");
+    RecordRequest forDiet = recordOf(diets, diet, b.firstId(diets, diet), QStringLiteral("Read"));
     forDiet.filter = true;
     forDiet.selectedId = b.firstId(QStringLiteral("tblReferences"), QStringLiteral("ReferenceID"));
-    const QString references = QStringLiteral("frmSelect_Reference");
-    b.open(references, &forDiet);
-    b.sort(references, QStringLiteral("ssCmbSearch"), QStringLiteral("fldRef_Title"), QStringLiteral("fldRef_Author"));
-    b.refilterByClicks(references, QStringLiteral("filter by species, unfiltered"), QStringLiteral("chkSpeciesFilter"),
-                       QStringLiteral("chkSpeciesFilter"));
-    b.close(references);
+    b.list({QStringLiteral("frmSelect_Reference"), QStringLiteral("ssCmbSearch"), QStringLiteral("fldRef_Title"),
+            QStringLiteral("fldRef_Author"), QStringLiteral("filter by species, unfiltered"), QStringLiteral("chkSpeciesFilter"),
+            QStringLiteral("chkSpeciesFilter")},
+           forDiet);
 
-    RecordRequest forSpecies;
-    forSpecies.recordId = b.firstId(QStringLiteral("tblSpecies"), QStringLiteral("SpeciesID"));
-    forSpecies.mode = QStringLiteral("Write");
+    const RecordRequest forSpecies =
+        recordOf({}, {}, b.firstId(QStringLiteral("tblSpecies"), QStringLiteral("SpeciesID")), QStringLiteral("Write"));
     b.open(QStringLiteral("frmReferenceSpecies"), &forSpecies);
     b.close(QStringLiteral("frmReferenceSpecies"));
 
