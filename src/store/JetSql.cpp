@@ -150,7 +150,7 @@ struct Token {
     Kw kw = Kw::None;
     bool space = false;   // whitespace precedes the token
     qsizetype pos = 0;    // raw text in the source
-    qsizetype len = 0;
+    qsizetype len = 0;    // raw text length, quotes and brackets included
     QString value;        // String: its content; Name: the name; Date: the ISO text
 };
 
@@ -388,6 +388,7 @@ std::vector<Token> tokenize(const QString &s)
                 || (prev.kind == Tk::Word && prev.kw == Kw::None))
                 syntaxError(QStringLiteral("(missing operator)"), s);
         }
+        t.len = i - t.pos;   // the raw text with its quotes or brackets
         out.push_back(std::move(t));
     }
     return out;
@@ -967,75 +968,136 @@ private:
     }
 };
 
-// "SELECT <list> FROM <table> RIGHT JOIN (<joins>) ON <condition> [WHERE ...]" as "... FROM (<joins>)
-// LEFT JOIN <table> ON <condition> ...": the same rows, but SQLite materializes a bracketed join on the
-// right of a RIGHT JOIN and scans it once for every row of the table, which at a few thousand rows a
-// side takes seconds; on the left of a LEFT JOIN the table is looked up by its index. Only a statement
-// of exactly that shape, whose list names its columns (a "*" would change their order), is rewritten.
-QString rightJoinAsLeftJoin(const QString &src)
+// "<table> RIGHT JOIN <right side> ON <condition>" as "<right side> LEFT JOIN <table> ON <condition>":
+// the same rows, but SQLite materializes a join on the right of a RIGHT JOIN and scans it once for
+// every row of the other side, which at a few thousand rows a side takes seconds, and nested several
+// deep, minutes; on the right of a LEFT JOIN the table is looked up by its index. The table must open
+// its bracket level (it then is the whole left side, joins being read from left to right), so that
+// the swap keeps every other join where the author put it. A statement whose list has a bare "*" is
+// left alone: its columns come in the order of the tables.
+class RightJoinRewrite {
+public:
+    explicit RightJoinRewrite(const QString &src) : m_src(src), m_t(tokenize(src)), m_n(int(m_t.size())) {}
+
+    //! The statement with its first rewritable RIGHT JOIN swapped; empty when there is none.
+    QString once() const
+    {
+        if (!kw(0, Kw::Select) || bareStar())
+            return {};
+        for (int j = 1; j < m_n; ++j) {
+            if (!kw(j, Kw::Right))
+                continue;
+            const int left = tableStart(j - 1);
+            const int join = kw(j + 1, Kw::Outer) ? j + 2 : j + 1;
+            if (left < 0 || !kw(join, Kw::Join))
+                continue;
+            const int rightEnd = operandEnd(join + 1);
+            if (rightEnd < 0 || !kw(rightEnd + 1, Kw::On))
+                continue;
+            const int condEnd = conditionEnd(rightEnd + 2);
+            QString out = m_src.left(m_t[size_t(left)].pos) + piece(join + 1, rightEnd) + QLatin1String(" LEFT JOIN ")
+                          + piece(left, j - 1) + QLatin1Char(' ') + piece(rightEnd + 1, condEnd - 1);
+            if (condEnd < m_n)
+                out += (op(condEnd, ')') ? QString() : QStringLiteral(" ")) + m_src.mid(m_t[size_t(condEnd)].pos);
+            return out;
+        }
+        return {};
+    }
+
+private:
+    bool op(int i, char c) const
+    {
+        return i >= 0 && i < m_n && m_t[size_t(i)].kind == Tk::Op && m_t[size_t(i)].len == 1
+               && m_src.at(m_t[size_t(i)].pos) == QLatin1Char(c);
+    }
+    bool kw(int i, Kw k) const { return i >= 0 && i < m_n && m_t[size_t(i)].kw == k; }
+    bool name(int i) const
+    {
+        return i >= 0 && i < m_n
+               && (m_t[size_t(i)].kind == Tk::Name || (m_t[size_t(i)].kind == Tk::Word && m_t[size_t(i)].kw == Kw::None));
+    }
+    QString piece(int first, int last) const   // the source text of tokens first..last
+    {
+        const qsizetype begin = m_t[size_t(first)].pos;
+        return m_src.mid(begin, m_t[size_t(last)].pos + m_t[size_t(last)].len - begin);
+    }
+    //! A "*" in the outer column list that is not "table.*".
+    bool bareStar() const
+    {
+        for (int i = 1, depth = 0; i < m_n && !(depth == 0 && kw(i, Kw::From)); ++i) {
+            depth += op(i, '(') ? 1 : op(i, ')') ? -1 : 0;
+            if (depth == 0 && op(i, '*') && !op(i - 1, '.'))
+                return true;
+        }
+        return false;
+    }
+    //! The first token of "table [[AS] alias]" ending at last, when it opens its bracket level of a
+    //! FROM clause; -1 otherwise.
+    int tableStart(int last) const
+    {
+        int first = last;
+        if (name(first) && name(first - 1))
+            --first;   // "table alias"
+        else if (name(first) && kw(first - 1, Kw::As) && name(first - 2))
+            first -= 2;
+        if (!name(first) || !name(last))
+            return -1;
+        return kw(first - 1, Kw::From) || op(first - 1, '(') ? first : -1;
+    }
+    //! The last token of a bracketed join or a "table [[AS] alias]" starting at first; -1 otherwise.
+    int operandEnd(int first) const
+    {
+        if (op(first, '(')) {
+            for (int i = first + 1, depth = 1; i < m_n; ++i) {
+                depth += op(i, '(') ? 1 : op(i, ')') ? -1 : 0;
+                if (depth == 0)
+                    return kw(first + 1, Kw::Select) ? -1 : i;   // a subquery is left alone
+            }
+            return -1;
+        }
+        if (!name(first))
+            return -1;
+        if (kw(first + 1, Kw::As))
+            return name(first + 2) ? first + 2 : -1;
+        return name(first + 1) ? first + 1 : first;
+    }
+    //! One past the last token of an ON condition starting at first: where its bracket level closes
+    //! or the next join or clause begins.
+    int conditionEnd(int first) const
+    {
+        int i = first;
+        for (int depth = 0; i < m_n; ++i) {
+            depth += op(i, '(') ? 1 : op(i, ')') ? -1 : 0;
+            if (depth < 0)
+                break;
+            if (depth > 0)
+                continue;
+            const bool join = kw(i, Kw::Join) || kw(i, Kw::Inner)
+                              || ((kw(i, Kw::Left) || kw(i, Kw::Right)) && !op(i + 1, '('));   // not Left(text, n)
+            if (join || kw(i, Kw::Where) || kw(i, Kw::Order) || kw(i, Kw::Group) || kw(i, Kw::Having)
+                || kw(i, Kw::Union) || op(i, ';'))
+                break;
+        }
+        return i;
+    }
+
+    const QString &m_src;
+    std::vector<Token> m_t;
+    int m_n;
+};
+
+//! Every RIGHT JOIN that RightJoinRewrite can swap, swapped.
+QString rightJoinsAsLeftJoins(const QString &src)
 {
     if (!src.contains(QLatin1String("right"), Qt::CaseInsensitive))
         return src;
-    std::vector<Token> t;
+    QString out = src;
     try {
-        t = tokenize(src);
+        for (QString next = RightJoinRewrite(out).once(); !next.isEmpty(); next = RightJoinRewrite(out).once())
+            out = next;
     } catch (const VbError &) {
         return src;   // the translator reports it
     }
-    const int n = int(t.size());
-    auto op = [&](int i, char c) { return i >= 0 && i < n && t[size_t(i)].kind == Tk::Op && t[size_t(i)].len == 1
-                                          && src.at(t[size_t(i)].pos) == QLatin1Char(c); };
-    auto kw = [&](int i, Kw k) { return i >= 0 && i < n && t[size_t(i)].kw == k; };
-    if (!kw(0, Kw::Select))
-        return src;
-    int from = 1;
-    for (int depth = 0; from < n && !(depth == 0 && kw(from, Kw::From)); ++from) {
-        if (op(from, '('))
-            ++depth;
-        else if (op(from, ')'))
-            --depth;
-        else if (depth == 0 && op(from, '*'))
-            return src;
-    }
-    const int table = from + 1;
-    const bool tableIsName = table < n && (t[size_t(table)].kind == Tk::Name || (t[size_t(table)].kind == Tk::Word
-                                                                                  && t[size_t(table)].kw == Kw::None));
-    int join = table + 1;
-    if (!tableIsName || !kw(join, Kw::Right))
-        return src;
-    if (kw(join + 1, Kw::Outer))
-        ++join;
-    const int open = join + 2;
-    if (!kw(join + 1, Kw::Join) || !op(open, '('))
-        return src;
-    int close = open + 1;
-    for (int depth = 1; close < n; ++close) {
-        depth += op(close, '(') ? 1 : op(close, ')') ? -1 : 0;
-        if (depth == 0)
-            break;
-    }
-    if (close >= n || !kw(close + 1, Kw::On))
-        return src;
-    int end = close + 2;
-    for (int depth = 0; end < n; ++end) {
-        depth += op(end, '(') ? 1 : op(end, ')') ? -1 : 0;
-        if (depth < 0)
-            return src;
-        if (depth > 0)
-            continue;
-        if (kw(end, Kw::Where) || kw(end, Kw::Order) || kw(end, Kw::Group) || kw(end, Kw::Having) || op(end, ';'))
-            break;
-        if (kw(end, Kw::Join) || kw(end, Kw::Left) || kw(end, Kw::Right) || kw(end, Kw::Inner) || kw(end, Kw::Union))
-            return src;   // a further join or a second statement: left as written
-    }
-    auto piece = [&](int first, int last) {   // the source text of tokens first..last
-        const qsizetype begin = t[size_t(first)].pos;
-        return src.mid(begin, t[size_t(last)].pos + t[size_t(last)].len - begin);
-    };
-    QString out = src.left(t[size_t(table)].pos) + piece(open, close) + QLatin1String(" LEFT JOIN ") + piece(table, table)
-        + QLatin1Char(' ') + piece(close + 1, end - 1);
-    if (end < n)
-        out += QLatin1Char(' ') + src.mid(t[size_t(end)].pos);
     return out;
 }
 
@@ -1043,7 +1105,7 @@ QString rightJoinAsLeftJoin(const QString &src)
 
 QString translateJetSql(const QString &jetSql)
 {
-    return Translator(rightJoinAsLeftJoin(jetSql), true).run();
+    return Translator(rightJoinsAsLeftJoins(jetSql), true).run();
 }
 
 QString translateJetCriteria(const QString &jetCriteria)

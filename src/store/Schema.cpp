@@ -231,11 +231,17 @@ QString columnDdl(const ColumnDef &c)
 //! Indexes that only make reading faster: a file without them is correct, only slower.
 QStringList speedIndexes()
 {
-    // The value lists join the references to each value table from the references' side, so each
-    // reference looks up its values: without these indexes every reference scans the whole table.
+    // Windows and calculations read a scenario's, a species', a diet's or a reference's rows of the
+    // tables that refer to it, and the value lists join the references to their values from the
+    // references' side: without an index each of these reads scans the whole table, once per row of
+    // the other side in a join.
     QStringList out;
-    for (const char *table : {"tblGrossEnergy", "tblAE", "tblWaterConversion", "tblTrophicLevel"})
-        out.append(QStringLiteral("CREATE INDEX IF NOT EXISTS %1_Reference ON %1 (ReferenceID)").arg(QLatin1String(table)));
+    for (const TableDef &t : tableDefs())
+        for (const ColumnDef &c : parseColumns(t.columns))
+            for (const char *link : {"ScenarioID", "SpeciesID", "DietID", "ReferenceID"})
+                if (c.kind != QLatin1Char('K') && c.name == QLatin1String(link))
+                    out.append(QStringLiteral("CREATE INDEX IF NOT EXISTS %1_%2 ON %1 (%3)")
+                                   .arg(QLatin1String(t.name), c.name.chopped(2), c.name));
     return out;
 }
 
