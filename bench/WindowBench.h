@@ -43,6 +43,13 @@ inline double nowMs()
     return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now().time_since_epoch()).count();
 }
 
+//! ZOB_BENCH_VERBOSE set: each row is told as it is measured, with the slowest statement of a slow one.
+inline bool verbose()
+{
+    static const bool on = qEnvironmentVariableIsSet("ZOB_BENCH_VERBOSE");
+    return on;
+}
+
 inline double median(std::vector<double> v)
 {
     std::sort(v.begin(), v.end());
@@ -114,7 +121,6 @@ struct Figure {
     double appMs = 0;
     double sqlMs = 0;
     int statements = 0;
-    int runs = 0;
     //! The window's action, or its statements on SQLite, were stopped at kBudgetMs.
     bool appStopped = false;
     bool sqlStopped = false;
@@ -218,7 +224,7 @@ public:
             f.sqlStopped = deadline.passed();
         }
         // Where the time of a slow window goes, when asked: its slowest statement.
-        if (qEnvironmentVariableIsSet("ZOB_BENCH_SLOWEST") && median(sql) > 100) {
+        if (verbose() && median(sql) > 100) {
             const auto [statement, ms] = trace.slowest(kBudgetMs);
             std::fprintf(stderr, "%s: slowest statement %s%.0f ms: %s\n", qPrintable(what), ms >= kBudgetMs ? ">" : "", ms,
                          statement.constData());
@@ -226,7 +232,6 @@ public:
         f.appMs = median(app);
         f.sqlMs = median(sql);
         f.statements = static_cast<int>(trace.reads().size());
-        f.runs = runs;
         return f;
     }
 
@@ -376,7 +381,8 @@ private:
     void record(const Figure &f)
     {
         m_out << f;
-        std::fprintf(stderr, "  %-52s %9.2f ms\n", qPrintable(f.what), f.appMs);
+        if (verbose())
+            std::fprintf(stderr, "  %-52s %9.2f ms\n", qPrintable(f.what), f.appMs);
     }
     void missing(const QString &window, const QString &what)
     {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The windows of the program's frame: the project list and a project opened from it, the setup with
-// its table choice, the file search, the folder chooser and the text zoom.
+// its table choice, the file search, the folder chooser and the text zoom; of the runtime's own, the
+// About box and the data source check (the help viewer and the runtime's message dialog are left out).
 #include "WindowBench.h"
 
 #include <QListWidget>
@@ -37,10 +38,15 @@ void benchSystemWindows(WindowBench &b)
         }
     }
     b.close(setup);
-    for (const QString &w : {QStringLiteral("frmSearch_File"), QStringLiteral("frmGetDir"), QStringLiteral("frmZoom")}) {
+    for (const QString &w : {QStringLiteral("frmSearch_File"), QStringLiteral("frmGetDir"), QStringLiteral("frmZoom"),
+                             QStringLiteral("frmSplash")}) {
         b.open(w);
         b.close(w);
     }
+    const QString check = QStringLiteral("frmRuntimeCheck");
+    b.open(check);
+    b.sort(check, QStringLiteral("ssGrdMain"), QStringLiteral("Description"), QStringLiteral("DataSourceID"));
+    b.close(check);
 }
 
 }  // namespace windowbench
