@@ -327,23 +327,65 @@ public:
     }
     void fetchMore(const QModelIndex &parent) override
     {
-        if (parent.isValid() || !m_rs)
-            return;
-        constexpr int batch = 256;
-        QList<QStandardItem *> items;
-        for (; items.size() < batch && m_rs->fetchTo(m_next); ++m_next) {
-            const QVariant shown = m_rs->valueAt(m_next, m_list);
-            auto *item = new QStandardItem(shown.isNull() ? QString() : shown.toString());
-            item->setData(m_rs->valueAt(m_next, m_bound), Qt::UserRole);
-            items << item;
+        if (!parent.isValid())
+            readRows([](const QVariant &) { return false; }, 256);
+    }
+
+    //! The row of the first item whose bound value (or text, for an item without one) is value, the
+    //! rows read as far as it takes; -1 when there is none. A value looked for far down the list is
+    //! found in the recordset's own values and the rows up to it become items at once.
+    int rowOf(const QVariant &value)
+    {
+        const QString wanted = value.toString();
+        for (int row = 0; row < rowCount(); ++row) {
+            const QStandardItem *it = item(row);
+            const QVariant data = it->data(Qt::UserRole);
+            if (sameValue(data.isValid() ? data : QVariant(it->text()), value, wanted))
+                return row;
         }
+        const int before = rowCount();
+        const int read = readRows([&](const QVariant &bound) { return sameValue(bound, value, wanted); }, -1);
+        return read > 0 && sameValue(item(before + read - 1)->data(Qt::UserRole), value, wanted) ? before + read - 1 : -1;
+    }
+
+private:
+    static bool sameValue(const QVariant &have, const QVariant &value, const QString &wanted)
+    {
+        const auto isWhole = [](const QVariant &v) {
+            return v.typeId() == QMetaType::Int || v.typeId() == QMetaType::LongLong;
+        };
+        if (isWhole(have) && isWhole(value))
+            return have.toLongLong() == value.toLongLong();
+        return have.toString().compare(wanted, Qt::CaseInsensitive) == 0;
+    }
+
+    //! Makes items of the next rows, up to limit rows (no limit when negative) or through the first
+    //! row whose bound value stop accepts; the number of items made.
+    template <typename Stop>
+    int readRows(Stop stop, int limit)
+    {
+        if (!m_rs)
+            return 0;
+        QList<QStandardItem *> items;
+        for (; (limit < 0 || items.size() < limit) && m_rs->fetchTo(m_next); ++m_next) {
+            const QVariant shown = m_rs->valueAt(m_next, m_list);
+            const QVariant bound = m_rs->valueAt(m_next, m_bound);
+            auto *item = new QStandardItem(shown.isNull() ? QString() : shown.toString());
+            item->setData(bound, Qt::UserRole);
+            items << item;
+            if (stop(bound)) {
+                ++m_next;
+                break;
+            }
+        }
+        const int made = static_cast<int>(items.size());
         if (!items.isEmpty())
             invisibleRootItem()->appendRows(items);
         if (!m_rs->fetchTo(m_next))
             m_rs.reset();   // every row is an item: the statement is done with
+        return made;
     }
 
-private:
     std::unique_ptr<Recordset> m_rs;
     int m_list;
     int m_bound;
@@ -371,7 +413,9 @@ void fillCombo(QComboBox *combo, Database &db, const QString &jetSql, const QStr
 void selectComboValue(QComboBox *combo, const QVariant &value)
 {
     int found = -1;
-    if (!value.isNull()) {
+    if (auto *rows = dynamic_cast<RecordsetComboModel *>(combo->model()); rows && !value.isNull()) {
+        found = rows->rowOf(value);
+    } else if (!value.isNull()) {
         const QString wanted = value.toString();
         QAbstractItemModel *model = combo->model();
         for (int i = 0; found < 0; ++i) {
