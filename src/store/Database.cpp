@@ -28,6 +28,8 @@ struct Database::Cache {
     QHash<QString, SqlText> translations;   // Jet SELECT -> its SQLite text
     QHash<QString, SqlText> lookups;        // table, field and criteria without numbers -> the lookup's statement
     QString lookupKey;                      // the key of the lookup being made, its capacity reused
+    QString lastLookupKey;                  // the last lookup's key and statement
+    SqlText lastLookup;
     // The last statement asked for, which a lookup or a list asks for again with other numbers: found
     // by comparing texts instead of hashing them.
     QString lastJet;
@@ -440,18 +442,22 @@ SqlText Database::lookupStatement(const QString &table, const QString &field, co
     key.resize(0);
     key.append(table).append(QChar(0)).append(field).append(QChar(0)).append(taken.templateText);
     params = std::move(taken.values);
-    auto it = m_cache->lookups.constFind(key);
-    if (it == m_cache->lookups.constEnd()) {
-        SqlText sql = translated(lookupSql(table, field, taken.templateText), static_cast<int>(params.size()));
-        if (m_cache->lookups.size() >= 4 * kStatementCacheLimit)
-            m_cache->lookups.clear();
-        it = m_cache->lookups.insert(QString(key.constData(), key.size()), sql);
+    if (key != m_cache->lastLookupKey) {   // a lookup repeated with other numbers skips the hash
+        auto it = m_cache->lookups.constFind(key);
+        if (it == m_cache->lookups.constEnd()) {
+            SqlText sql = translated(lookupSql(table, field, taken.templateText), static_cast<int>(params.size()));
+            if (m_cache->lookups.size() >= 4 * kStatementCacheLimit)
+                m_cache->lookups.clear();
+            it = m_cache->lookups.insert(QString(key.constData(), key.size()), sql);
+        }
+        m_cache->lastLookupKey = QString(key.constData(), key.size());
+        m_cache->lastLookup = it.value();
     }
-    if (it.value().text.isNull()) {   // the numbers could not be taken out: the statement with its numbers
+    if (m_cache->lastLookup.text.isNull()) {   // the numbers could not be taken out: the statement with its numbers
         params.clear();
         return translated(lookupSql(table, field, criteria), 0);
     }
-    return it.value();
+    return m_cache->lastLookup;
 }
 
 SqlText Database::translated(const QString &jetSql, int parameters)
