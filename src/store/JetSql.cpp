@@ -1021,12 +1021,12 @@ private:
         const qsizetype begin = m_t[size_t(first)].pos;
         return m_src.mid(begin, m_t[size_t(last)].pos + m_t[size_t(last)].len - begin);
     }
-    //! A "*" in the outer column list that is not "table.*".
+    //! A "*" for all columns in the outer column list, not "table.*" and not a product.
     bool bareStar() const
     {
         for (int i = 1, depth = 0; i < m_n && !(depth == 0 && kw(i, Kw::From)); ++i) {
             depth += op(i, '(') ? 1 : op(i, ')') ? -1 : 0;
-            if (depth == 0 && op(i, '*') && !op(i - 1, '.'))
+            if (depth == 0 && op(i, '*') && !op(i - 1, '.') && (op(i + 1, ',') || kw(i + 1, Kw::From)))
                 return true;
         }
         return false;

@@ -376,11 +376,11 @@ TEST(JetSqlText, RightJoinsBecomeLeftJoinsWhereTheOtherJoinsStayPut)
     auto sql = [](const char *jet) { return translateJetSql(QString::fromUtf8(jet)).simplified().toStdString(); };
     EXPECT_EQ(sql("SELECT a.x, r.y FROM r RIGHT JOIN (a RIGHT JOIN [b] ON a.k = [b].[k]) ON r.id = a.rid WHERE a.x = 1"),
               "SELECT a.x, r.y FROM (\"b\" LEFT JOIN a ON a.k = \"b\".\"k\") LEFT JOIN r ON r.id = a.rid WHERE a.x = 1");
-    EXPECT_EQ(sql("SELECT t.*, v.n FROM t AS u RIGHT JOIN v ON u.k = Left(v.k, 2) LEFT JOIN w ON w.k = v.k ORDER BY v.n"),
-              "SELECT t.*, v.n FROM v LEFT JOIN t AS u ON u.k = SUBSTR(v.k,1,2) LEFT JOIN w ON w.k = v.k ORDER BY v.n");
+    EXPECT_EQ(sql("SELECT t.*, v.n * 2 FROM t AS u RIGHT JOIN v ON u.k = Left(v.k, 2) LEFT JOIN w ON w.k = v.k ORDER BY v.n"),
+              "SELECT t.*, v.n * 2 FROM v LEFT JOIN t AS u ON u.k = SUBSTR(v.k,1,2) LEFT JOIN w ON w.k = v.k ORDER BY v.n");
     // A bare "*" lists the columns in the order of the tables; a RIGHT JOIN whose left side is itself a
     // join would have to move that join.
-    for (const char *kept : {"SELECT * FROM r RIGHT JOIN a ON r.id = a.rid",
+    for (const char *kept : {"SELECT * FROM r RIGHT JOIN a ON r.id = a.rid", "SELECT a.x, * FROM r RIGHT JOIN a ON r.id = a.rid",
                              "SELECT a.x FROM (a LEFT JOIN b ON a.k = b.k) RIGHT JOIN r ON r.id = a.rid",
                              "SELECT a.x FROM a LEFT JOIN b ON a.k = b.k RIGHT JOIN r ON r.id = a.rid"})
         EXPECT_NE(sql(kept).find("RIGHT JOIN"), std::string::npos) << kept;
