@@ -30,11 +30,6 @@ struct Database::Cache {
     QString lookupKey;                      // the key of the lookup being made, its capacity reused
     QString lastLookupKey;                  // the last lookup's key and statement
     SqlText lastLookup;
-    // The last statement asked for, which a lookup or a list asks for again with other numbers: found
-    // by comparing texts instead of hashing them.
-    QString lastJet;
-    SqlText lastSql;
-    sqlite3_stmt *lastStmt = nullptr;   // cached under lastSql.utf8
     QHash<QByteArray, std::shared_ptr<const RecordsetShape>> shapes;   // SQLite SELECT -> its result shape
 };
 
@@ -463,22 +458,16 @@ SqlText Database::lookupStatement(const QString &table, const QString &field, co
 SqlText Database::translated(const QString &jetSql, int parameters)
 {
     // Windows and lookups open the same few statements over and over: each is translated once.
-    if (jetSql == m_cache->lastJet && !m_cache->lastJet.isNull())
-        return m_cache->lastSql;
     auto it = m_cache->translations.constFind(jetSql);
-    if (it != m_cache->translations.constEnd()) {
-        m_cache->lastJet = QString(jetSql.constData(), jetSql.size());   // a copy of its own: jetSql may be a reused buffer
-        m_cache->lastSql = it.value();
-        m_cache->lastStmt = nullptr;
+    if (it != m_cache->translations.constEnd())
         return it.value();
-    }
     SqlText sql{translateJetSql(jetSql), {}};
     if (parameters > 0 && !markersToParameters(sql.text, parameters))
         sql.text = QString();   // the caller translates the statement with its numbers instead
     sql.utf8 = sql.text.toUtf8();
     if (m_cache->translations.size() >= 4 * kStatementCacheLimit)
         m_cache->translations.clear();
-    m_cache->translations.insert(jetSql, sql);
+    m_cache->translations.insert(QString(jetSql.constData(), jetSql.size()), sql);   // jetSql may be a reused buffer
     return sql;
 }
 
@@ -540,22 +529,12 @@ void Database::clearSchemaCache()
 int Database::prepareCached(const QByteArray &sql, sqlite3_stmt **out)
 {
     *out = nullptr;
-    if (m_cache->lastStmt && sql.constData() == m_cache->lastSql.utf8.constData()) {
-        bool &busy = m_cache->inUse[m_cache->lastStmt];
-        if (!busy) {
-            busy = true;
-            *out = m_cache->lastStmt;
-            return SQLITE_OK;
-        }
-    }
     const auto it = m_cache->statements.constFind(sql);
     if (it != m_cache->statements.constEnd()) {
         bool &busy = m_cache->inUse[it.value()];
         if (!busy) {
             busy = true;
             *out = it.value();
-            if (sql.constData() == m_cache->lastSql.utf8.constData())
-                m_cache->lastStmt = *out;
             return SQLITE_OK;
         }
     }
@@ -570,16 +549,12 @@ int Database::prepareCached(const QByteArray &sql, sqlite3_stmt **out)
                 continue;
             }
             m_cache->inUse.remove(e.value());
-            if (e.value() == m_cache->lastStmt)
-                m_cache->lastStmt = nullptr;
             sqlite3_finalize(e.value());
             e = m_cache->statements.erase(e);
         }
     }
     m_cache->statements.insert(sql, *out);
     m_cache->inUse.insert(*out, true);
-    if (sql.constData() == m_cache->lastSql.utf8.constData())
-        m_cache->lastStmt = *out;
     return rc;
 }
 

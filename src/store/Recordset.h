@@ -24,13 +24,13 @@ struct RecordsetShape {
     QByteArray keyedSql;   // the statement with the table's rowid read first, when table is set
 };
 
-//! DAO recordset types: dynaset (2) can be written when it rests on one table; snapshot (4) never.
 //! A statement in SQLite's dialect, with its text as SQLite takes it.
 struct SqlText {
     QString text;
     QByteArray utf8;
 };
 
+//! DAO recordset types: dynaset (2) can be written when it rests on one table; snapshot (4) never.
 enum class RecordsetType { Table = 1, Dynaset = 2, Snapshot = 4 };
 
 //! A DAO-style recordset over the result of one statement.

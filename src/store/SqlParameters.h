@@ -5,13 +5,13 @@
 #include <QVarLengthArray>
 #include <QVariant>
 
+//! The numbers of a statement: few, so kept without a separate allocation.
+using SqlValues = QVarLengthArray<QVariant, 4>;
+
 //! A statement whose compared numbers are taken out as parameters, so that statements differing only
 //! in such numbers ("... WHERE SpeciesID = 12", "... = 13") share one translation and one prepared
 //! statement. A number counts when it directly follows a comparison (=, <>, <, >, <=, >=); numbers
 //! anywhere else (TOP 5, ORDER BY 2, arithmetic) stay in the text.
-//! The numbers of a statement: few, so kept without a separate allocation.
-using SqlValues = QVarLengthArray<QVariant, 4>;
-
 struct SqlParameters {
     //! The statement with each such number replaced by a marker number the translator copies as it is.
     QString templateText;
