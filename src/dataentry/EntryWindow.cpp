@@ -5,6 +5,7 @@
 #include "DataControl.h"
 #include "Diagnostics.h"
 #include "Functions.h"
+#include "Lookups.h"
 #include "QtWindowHost.h"
 #include "Recordset.h"
 #include "Session.h"
@@ -100,6 +101,17 @@ QPushButton *EntryWindow::recordButton(FormBuilder &b, const QString &name, int 
     connect(button, &QPushButton::clicked, this, [this, routineName, handler] { runCommand(routineName, handler); });
     m_record->addButton(button);
     return button;
+}
+
+void EntryWindow::spreadFields(FormBuilder &b, const QString &unit)
+{
+    const QString suffix = unit.isEmpty() ? QStringLiteral(":") : QStringLiteral(" (%1):").arg(unit);
+    textField(b, QStringLiteral("txtSample"), QStringLiteral("Sample Size:"), QStringLiteral("Sample"));
+    textField(b, QStringLiteral("txtMin"), QStringLiteral("Minimum") + suffix, QStringLiteral("Min"));
+    textField(b, QStringLiteral("txtMax"), QStringLiteral("Maximum") + suffix, QStringLiteral("Max"));
+    textField(b, QStringLiteral("txtVarValue"), QStringLiteral("Variance:"), QStringLiteral("VarValue"));
+    listField(b, QStringLiteral("cboVarianceType"), QStringLiteral("Variance Type:"), QStringLiteral("VarianceTypeID"),
+              Lookups::varianceType());
 }
 
 void EntryWindow::dataSourceField(FormBuilder &b)

@@ -119,6 +119,9 @@ protected:
     //! under the window's error handler as "<name>_Click".
     QPushButton *recordButton(FormBuilder &b, const QString &name, int index, const QString &caption,
                               std::function<void()> handler);
+    //! The spread of a measurement: sample size, minimum and maximum (their captions ending in unit,
+    //! when given), variance and its type.
+    void spreadFields(FormBuilder &b, const QString &unit = {});
     //! The data source combo (locked always) with its quality label.
     void dataSourceField(FormBuilder &b);
     //! The classification button and its read-only text; the picker is opened in mode mode.

@@ -28,12 +28,7 @@ frmDE_IntakeMeasured::frmDE_IntakeMeasured(Session &session, QtWindowHost &host)
     listField(what, QStringLiteral("cboStatus"), QStringLiteral("Status:"), QStringLiteral("StatusID"), Lookups::status());
     FormBuilder stats = body().frame(QStringLiteral("fraMeasurement"), QStringLiteral("Measurement")).fields(2);
     textField(stats, QStringLiteral("txtMean"), QStringLiteral("Mean:"), QStringLiteral("Mean"));
-    textField(stats, QStringLiteral("txtSample"), QStringLiteral("Sample Size:"), QStringLiteral("Sample"));
-    textField(stats, QStringLiteral("txtMin"), QStringLiteral("Minimum:"), QStringLiteral("Min"));
-    textField(stats, QStringLiteral("txtMax"), QStringLiteral("Maximum:"), QStringLiteral("Max"));
-    textField(stats, QStringLiteral("txtVarValue"), QStringLiteral("Variance:"), QStringLiteral("VarValue"));
-    listField(stats, QStringLiteral("cboVarianceType"), QStringLiteral("Variance Type:"), QStringLiteral("VarianceTypeID"),
-              Lookups::varianceType());
+    spreadFields(stats);
     dataSourceField(stats);
     FormBuilder notes = body().fields();
     textField(notes, QStringLiteral("txtNote"), QStringLiteral("Note:"), QStringLiteral("Note"), 3);

@@ -29,12 +29,7 @@ frmDE_TrophicLevel::frmDE_TrophicLevel(Session &session, QtWindowHost &host)
 
     FormBuilder stats = body().frame(QStringLiteral("fraMeasurement"), QStringLiteral("Measurement")).fields(2);
     textField(stats, QStringLiteral("txtTrophicLevel"), QStringLiteral("Trophic Level:"), QStringLiteral("TrophicLevel"));
-    textField(stats, QStringLiteral("txtSample"), QStringLiteral("Sample Size:"), QStringLiteral("Sample"));
-    textField(stats, QStringLiteral("txtMin"), QStringLiteral("Minimum:"), QStringLiteral("Min"));
-    textField(stats, QStringLiteral("txtMax"), QStringLiteral("Maximum:"), QStringLiteral("Max"));
-    textField(stats, QStringLiteral("txtVarValue"), QStringLiteral("Variance:"), QStringLiteral("VarValue"));
-    listField(stats, QStringLiteral("cboVarianceType"), QStringLiteral("Variance Type:"), QStringLiteral("VarianceTypeID"),
-              Lookups::varianceType());
+    spreadFields(stats);
 
     FormBuilder texts = body().frame(QStringLiteral("fraClassification"), QStringLiteral("Classification")).fields();
     classificationField(texts, QStringLiteral("Write"));

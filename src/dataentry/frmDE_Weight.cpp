@@ -23,12 +23,7 @@ frmDE_Weight::frmDE_Weight(Session &session, QtWindowHost &host)
 {
     FormBuilder stats = body().frame(QStringLiteral("fraMeasurement"), QStringLiteral("Measurement")).fields(2);
     textField(stats, QStringLiteral("txtMean"), QStringLiteral("Mean (g):"), QStringLiteral("Mean"));
-    textField(stats, QStringLiteral("txtSample"), QStringLiteral("Sample Size:"), QStringLiteral("Sample"));
-    textField(stats, QStringLiteral("txtMin"), QStringLiteral("Minimum (g):"), QStringLiteral("Min"));
-    textField(stats, QStringLiteral("txtMax"), QStringLiteral("Maximum (g):"), QStringLiteral("Max"));
-    textField(stats, QStringLiteral("txtVarValue"), QStringLiteral("Variance:"), QStringLiteral("VarValue"));
-    listField(stats, QStringLiteral("cboVarianceType"), QStringLiteral("Variance Type:"), QStringLiteral("VarianceTypeID"),
-              Lookups::varianceType());
+    spreadFields(stats, QStringLiteral("g"));
     listField(stats, QStringLiteral("cboStatus"), QStringLiteral("Status:"), QStringLiteral("StatusID"), Lookups::status());
     dataSourceField(stats);
     FormBuilder where = body().frame(QStringLiteral("fraCollection"), QStringLiteral("Collection Information")).fields();

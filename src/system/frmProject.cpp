@@ -153,8 +153,9 @@ void frmProject::Form_Load()
 void frmProject::Form_Activate()
 {
     guarded(session(), {ErrForm::Shared, QStringLiteral("frmProject Form_Activate")}, [&] {
-        // A new project has no row yet: what was typed stays.
-        if (m_boundPid > 0 && session().gProject->Mode != QLatin1String("Add"))
+        // A new project has no row yet: what was typed stays. At the first activation the project
+        // has just been read.
+        if (!firstActivation() && m_boundPid > 0 && session().gProject->Mode != QLatin1String("Add"))
             m_dcProject->Refresh();
     });
 }

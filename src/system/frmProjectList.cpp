@@ -13,7 +13,6 @@
 
 #include <QFile>
 #include <QLabel>
-#include <utility>
 
 namespace {
 const WindowRegistration<frmProjectList> reg(QStringLiteral("frmProjectList"));
@@ -70,17 +69,13 @@ void frmProjectList::Form_Load()
     guarded(session(), {ErrForm::Qualified, QStringLiteral("frmProjectList.Form_Load")}, [&] {
         m_dcMain->setDatabase(session().gDB);
         sortBy(QStringLiteral("Name"));
-        m_justLoaded = true;
     });
 }
 
 void frmProjectList::Form_Activate()
 {
-    // Coming back to the list (from a project, say) shows what changed meanwhile; the activation that
-    // follows the load finds the list just read.
-    if (std::exchange(m_justLoaded, false))
-        return;
-    if (m_dcMain->recordset())
+    // Coming back to the list (from a project, say) shows what changed meanwhile.
+    if (!firstActivation() && m_dcMain->recordset())
         refreshList();
 }
 

@@ -33,5 +33,4 @@ private:
     DataGrid *m_ssGrdMain;
     QLabel *m_lblNoRecords;
     QString m_sortField = QStringLiteral("Name");
-    bool m_justLoaded = false;   // loaded, and not yet activated
 };

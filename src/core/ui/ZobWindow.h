@@ -8,6 +8,7 @@
 #include <QPointer>
 #include <QWidget>
 #include <functional>
+#include <utility>
 
 class FormBuilder;
 class QPushButton;
@@ -124,6 +125,9 @@ public:
     void runCommand(const QString &routine, const std::function<void()> &body);
 
 protected:
+    //! True only at the first activation of the window, which follows its load at once: what the load
+    //! has just read need not be read again.
+    bool firstActivation() { return !std::exchange(m_activated, true); }
     //! The window's toolbar, from a table: each handler runs under the window's error handler as
     //! routine (the legacy "TB_MDI_ButtonClick"), and the busy cursor is reset after it.
     ZobToolbar *buildToolbar(FormBuilder &builder, const QList<ToolButton> &places,
@@ -145,6 +149,7 @@ private:
     QTabWidget *pageStrip(const QKeyEvent *key, int *step) const;
 
     bool m_unloading = false;
+    bool m_activated = false;
     const QEvent *m_previewed = nullptr;
     RecordRequest m_request;
     QList<QPair<QPointer<QWidget>, int>> m_helpTopics;
