@@ -51,6 +51,8 @@ double perCallMicros(int n, F &&f)
 //! The median of some times.
 inline double benchMedian(std::vector<double> v)
 {
+    if (v.empty())
+        return 0.0;
     std::sort(v.begin(), v.end());
     return (v[v.size() / 2] + v[(v.size() - 1) / 2]) / 2;
 }

@@ -50,12 +50,6 @@ inline bool verbose()
     return on;
 }
 
-inline double median(std::vector<double> v)
-{
-    std::sort(v.begin(), v.end());
-    return v.empty() ? 0.0 : v[v.size() / 2];
-}
-
 //! Answers every box with its default button, silently.
 class QuietMessages : public MessageService {
 public:
@@ -91,9 +85,7 @@ public:
     //! written on SQLite itself would do to show the same rows.
     double replayMs() const
     {
-        const double t0 = nowMs();
-        replayStatements(m_db, m_sql);
-        return nowMs() - t0;
+        return benchMillis([this] { replayStatements(m_db, m_sql); });
     }
 
     //! The read that takes longest on SQLite, and its time (each stopped at budgetMs).
@@ -224,13 +216,13 @@ public:
             f.sqlStopped = deadline.passed();
         }
         // Where the time of a slow window goes, when asked: its slowest statement.
-        if (verbose() && median(sql) > 100) {
+        if (verbose() && benchMedian(sql) > 100) {
             const auto [statement, ms] = trace.slowest(kBudgetMs);
             std::fprintf(stderr, "%s: slowest statement %s%.0f ms: %s\n", qPrintable(what), ms >= kBudgetMs ? ">" : "", ms,
                          statement.constData());
         }
-        f.appMs = median(app);
-        f.sqlMs = median(sql);
+        f.appMs = benchMedian(app);
+        f.sqlMs = benchMedian(sql);
         f.statements = static_cast<int>(trace.reads().size());
         return f;
     }

@@ -48,12 +48,6 @@ void scaleUp(Database &db)
     tx.commit();
 }
 
-double median(std::vector<double> v)
-{
-    std::sort(v.begin(), v.end());
-    return v[v.size() / 2];
-}
-
 //! Median microseconds of runs runs of f.
 template <typename F>
 double medianMicros(int runs, F &&f)
@@ -61,7 +55,7 @@ double medianMicros(int runs, F &&f)
     std::vector<double> times;
     for (int i = 0; i < runs; ++i)
         times.push_back(perCallMicros(1, [&](int) { f(); }));
-    return median(times);
+    return benchMedian(times);
 }
 
 volatile qint64 sink = 0;

@@ -143,7 +143,7 @@ double coldStartMs(const QString &self, const QString &database)
         if (child.exitCode() == 0 && shown > t0)
             times.push_back(shown - t0);
     }
-    return median(times);
+    return benchMedian(times);
 }
 
 }  // namespace
