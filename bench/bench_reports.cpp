@@ -52,9 +52,8 @@ double medianMillis(int n, F &&f)
 {
     std::vector<double> times;
     for (int i = 0; i < n; ++i)
-        times.push_back(perCallMicros(1, [&](int) { f(); }) / 1000);
-    std::sort(times.begin(), times.end());
-    return times[times.size() / 2];
+        times.push_back(benchMillis(f));
+    return benchMedian(times);
 }
 
 void run(Session &s, ActiveReport &report, const QString &pdf)
