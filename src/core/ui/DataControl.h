@@ -215,8 +215,6 @@ public:
     //! Declares columns by field, after setDataControl. With onlyThese, the columns of the record source that are not
     //! listed are hidden and the listed ones stand in the order given. Each setting survives a Refresh.
     void setColumns(const QList<GridColumn> &columns, bool onlyThese = false);
-    //! The hidden columns by field name survive a Refresh.
-    bool isFieldHidden(const QString &field) const { return m_hidden.contains(field.toLower()); }
 
     //! Fits each column to its contents and caption, within minChars and maxChars average characters
     //! (0: no limit).
