@@ -242,9 +242,12 @@ QStringList speedIndexes()
                 if (c.kind != QLatin1Char('K') && c.name == QLatin1String(link))
                     out.append(QStringLiteral("CREATE INDEX IF NOT EXISTS %1_%2 ON %1 (%3)")
                                    .arg(QLatin1String(t.name), c.name.chopped(2), c.name));
-    // The project list, the program's first window, is read in name order: with the index its first
-    // screen of rows comes without sorting every project first.
+    // Long lists read in one order: the project list, the program's first window, by name, and the
+    // state and province lists of the project, diet and weight windows by description (the project
+    // window's by type first). With an index the first screen of rows comes without sorting them all.
     out.append(QStringLiteral("CREATE INDEX IF NOT EXISTS tblProject_Name ON tblProject (Name)"));
+    out.append(QStringLiteral("CREATE INDEX IF NOT EXISTS tblStateProvince_Description ON tblStateProvince (Description)"));
+    out.append(QStringLiteral("CREATE INDEX IF NOT EXISTS tblStateProvince_TypeDescription ON tblStateProvince (Type, Description)"));
     return out;
 }
 
