@@ -3,6 +3,7 @@
 
 #include "Diagnostics.h"
 #include "MenuTable.h"
+#include "ProgramStyle.h"
 #include "QtWindowHost.h"
 #include "Session.h"
 #include "Utilities.h"
@@ -22,6 +23,7 @@
 frmMDI::frmMDI(Session &session, QtWindowHost &host, QWidget *parent)
     : QMainWindow(parent), m_session(session), m_host(host), m_mdi(new QMdiArea(this))
 {
+    ProgramStyle::install();
     setObjectName(QStringLiteral("frmMDI"));
     m_mdi->setObjectName(QStringLiteral("mdiArea"));
     setCentralWidget(m_mdi);
