@@ -27,9 +27,10 @@ struct Database::Cache {
     SqlParameters taken;   // the numbers of the statement being opened, its text reused from the last
     QHash<QString, SqlText> translations;   // Jet SELECT -> its SQLite text
     QHash<QString, SqlText> lookups;        // table, field and criteria without numbers -> the lookup's statement
-    QString lookupKey;                      // the key of the lookup being made, its capacity reused
-    QString lastLookupKey;                  // the last lookup's key and statement
-    SqlText lastLookup;
+    struct {
+        QString table, field, criteria;     // criteria without numbers
+        SqlText sql;
+    } lastLookup;                           // the last lookup: the next one is mostly the same
     QHash<QByteArray, std::shared_ptr<const RecordsetShape>> shapes;   // SQLite SELECT -> its result shape
 };
 
@@ -433,26 +434,28 @@ SqlText Database::lookupStatement(const QString &table, const QString &field, co
     // and the statement is found by table, field and the criteria without their numbers.
     SqlParameters &taken = m_cache->taken;
     takeComparedNumbers(criteria, taken);
-    QString &key = m_cache->lookupKey;
-    key.resize(0);
-    key.append(table).append(QChar(0)).append(field).append(QChar(0)).append(taken.templateText);
     params = std::move(taken.values);
-    if (key != m_cache->lastLookupKey) {   // a lookup repeated with other numbers skips the hash
+    auto &last = m_cache->lastLookup;
+    // A lookup repeated with other numbers is compared piece by piece, without making its key.
+    if (table != last.table || field != last.field || taken.templateText != last.criteria) {
+        const QString key = table + QChar(0) + field + QChar(0) + taken.templateText;
         auto it = m_cache->lookups.constFind(key);
         if (it == m_cache->lookups.constEnd()) {
             SqlText sql = translated(lookupSql(table, field, taken.templateText), static_cast<int>(params.size()));
             if (m_cache->lookups.size() >= 4 * kStatementCacheLimit)
                 m_cache->lookups.clear();
-            it = m_cache->lookups.insert(QString(key.constData(), key.size()), sql);
+            it = m_cache->lookups.insert(key, sql);
         }
-        m_cache->lastLookupKey = QString(key.constData(), key.size());
-        m_cache->lastLookup = it.value();
+        last.table = table;
+        last.field = field;
+        last.criteria = QString(taken.templateText.constData(), taken.templateText.size());   // the template is a reused buffer
+        last.sql = it.value();
     }
-    if (m_cache->lastLookup.text.isNull()) {   // the numbers could not be taken out: the statement with its numbers
+    if (last.sql.text.isNull()) {   // the numbers could not be taken out: the statement with its numbers
         params.clear();
         return translated(lookupSql(table, field, criteria), 0);
     }
-    return m_cache->lastLookup;
+    return last.sql;
 }
 
 SqlText Database::translated(const QString &jetSql, int parameters)
