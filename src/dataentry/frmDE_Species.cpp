@@ -192,8 +192,7 @@ void frmDE_Species::LoadDiet()
     dc->setRecordSource(QStringLiteral("SELECT tblDiet.*, qryReference.Reference FROM qryReference RIGHT JOIN tblDiet ON "
                                        "qryReference.ReferenceID = tblDiet.ReferenceID WHERE tblDiet.SpeciesID = %1")
                             .arg(speciesId()));
-    dc->Refresh();
-    LoadDietItems();
+    dc->Refresh();   // its arrival at the first diet loads that diet's items
 }
 
 void frmDE_Species::LoadDietItems()
