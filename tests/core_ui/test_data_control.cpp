@@ -99,6 +99,24 @@ TEST_F(DataControlTest, LongListsAreCountedByTheDatabaseAndReadAsShown)
     EXPECT_EQ(dc.currentRow(), 2999);
 }
 
+TEST_F(DataControlTest, ColumnsFitTheWidestTextInViewOfOneLineOrSeveral)
+{
+    // By characters the first name is the longest, by width the second is wider; the third would be
+    // the widest on one line but shows on two shorter ones.
+    ts->gDB->Execute(QStringLiteral("Delete * From tblProject"));
+    ts->gDB->executeNative(QStringLiteral("INSERT INTO tblProject (Name) VALUES ('iiiiiiiiiiii'), ('WWWWWWW'), "
+                                          "('aaaaaaa' || char(10) || 'aaaaaaa')"));
+    DataGrid grid(QStringLiteral("ssGrdMain"));
+    grid.setDataControl(&dc);
+    grid.setColumnCaption(QStringLiteral("Name"), QStringLiteral("N"));
+    dc.Refresh();
+    grid.fitColumns(0);
+    const QFontMetrics metrics(grid.font());
+    const int name = dc.fieldIndex(QStringLiteral("Name"));
+    EXPECT_GE(grid.columnWidth(name), metrics.horizontalAdvance(QStringLiteral("WWWWWWW")));
+    EXPECT_LT(grid.columnWidth(name), metrics.horizontalAdvance(QStringLiteral("aaaaaaa aaaaaaa")));
+}
+
 TEST_F(DataControlTest, LongComboListsAreReadAsTheyAreLookedAt)
 {
     ts->gDB->executeNative(QStringLiteral(

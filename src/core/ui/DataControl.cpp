@@ -786,10 +786,30 @@ int DataGrid::sizeHintForColumn(int column) const
     const int bottom = std::min(rows, top + std::max(inView, 40));
     QStyleOptionViewItem option;
     initViewItemOption(&option);
-    int hint = 0;
-    for (int row = top; row < bottom; ++row) {
+    auto cellWidth = [&](int row) {
         const QModelIndex index = m_model->index(row, column);
-        hint = std::max(hint, itemDelegateForIndex(index)->sizeHint(option, index).width());
+        return itemDelegateForIndex(index)->sizeHint(option, index).width();
+    };
+    int hint = 0;
+    if (m_model->isCheck(column)) {
+        hint = bottom > top ? cellWidth(top) : 0;   // a check box is as wide in every row
+    } else {
+        // A text cell is as wide as its text and the same margins: the cell with the widest text of
+        // one line is the widest cell, and only it (and any of several lines) is measured whole.
+        const QFontMetrics metrics(option.font);
+        int widest = -1, widestRow = -1;
+        for (int row = top; row < bottom; ++row) {
+            const QString text = m_model->text(row, column);
+            if (text.contains(QLatin1Char('\n'))) {
+                hint = std::max(hint, cellWidth(row));
+                continue;
+            }
+            const int advance = metrics.horizontalAdvance(text);
+            if (advance > widest)
+                widest = advance, widestRow = row;
+        }
+        if (widestRow >= 0)
+            hint = std::max(hint, cellWidth(widestRow));
     }
     return hint + (showGrid() ? 1 : 0);
 }
