@@ -6,8 +6,8 @@
 // are in windows/); a window whose statements run past 5 s is stopped there and marked. Then the cold
 // start of the program to the project list, and the Lookup and one-row recordset opens next to the
 // same prepared statements on the SQLite C interface. ZOB_BENCH_VERBOSE=1 tells each row as it is
-// measured and the slowest statement of a slow one; ZOB_BENCH_ONLY=<text> measures only the rows that
-// hold the text, ZOB_BENCH_RUNS=<n> times each row n times.
+// measured and the slowest statement of a slow one. For a profiler on one window, ZOB_BENCH_ONLY=<text>
+// times only the rows that hold the text, ZOB_BENCH_RUNS=<n> times (the others run once).
 #include "WindowBench.h"
 
 #include <QHash>

@@ -6,8 +6,6 @@
 #include <QStyleOption>
 #include <QWidget>
 
-ProgramStyle::ProgramStyle() = default;
-
 void ProgramStyle::install()
 {
     if (qobject_cast<ProgramStyle *>(QApplication::style()))

@@ -11,8 +11,6 @@
 class ProgramStyle : public QProxyStyle {
     Q_OBJECT
 public:
-    ProgramStyle();
-
     //! Makes the program style and its text layout the application's, once; a later call keeps the
     //! ones in place.
     static void install();
