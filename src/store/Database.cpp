@@ -26,11 +26,24 @@ struct Database::Cache {
     int writeAheadLog = -1;                       // 1 in write-ahead-log mode, 0 not, -1 not asked yet
     SqlParameters taken;   // the numbers of the statement being opened, its text reused from the last
     QHash<QString, SqlText> translations;   // Jet SELECT -> its SQLite text
-    QHash<QString, SqlText> lookups;        // table, field and criteria without numbers -> the lookup's statement
+    // A lookup keeps its statement prepared for itself: lookups run by the thousand, and finding a
+    // shared statement by its text each time is a fair part of what one costs.
+    struct Lookup {
+        SqlText sql;                   // null text: the criteria are translated with their numbers each time
+        sqlite3_stmt *stmt = nullptr;  // its own, prepared once
+    };
+    QHash<QString, Lookup> lookups;         // table, field and criteria without numbers -> the lookup
     struct {
         QString table, field, criteria;     // criteria without numbers
-        SqlText sql;
+        Lookup lookup;
     } lastLookup;                           // the last lookup: the next one is mostly the same
+    void clearLookups()
+    {
+        for (const Lookup &l : std::as_const(lookups))
+            sqlite3_finalize(l.stmt);
+        lookups.clear();
+        lastLookup = {};
+    }
     QHash<QByteArray, std::shared_ptr<const RecordsetShape>> shapes;   // SQLite SELECT -> its result shape
 };
 
@@ -128,6 +141,7 @@ Database::Database(QString path, sqlite3 *db) : m_path(std::move(path)), m_db(db
 Database::~Database()
 {
     finishReading();
+    m_cache->clearLookups();
     for (sqlite3_stmt *stmt : std::as_const(m_cache->statements))
         sqlite3_finalize(stmt);
     m_cache->statements.clear();
@@ -427,7 +441,8 @@ QString Database::lookupSql(const QString &table, const QString &field, const QS
     return QStringView(criteria).trimmed().isEmpty() ? sql : sql + QStringLiteral(" WHERE ") + criteria;
 }
 
-SqlText Database::lookupStatement(const QString &table, const QString &field, const QString &criteria, SqlValues &params)
+sqlite3_stmt *Database::lookupStatement(const QString &table, const QString &field, const QString &criteria, SqlValues &params,
+                                       SqlText &sql)
 {
     // Lookups run by the thousand in calculations and lists, mostly with the same table, field and
     // criteria but other numbers. Only the criteria can hold numbers, so only they are read for them,
@@ -441,21 +456,26 @@ SqlText Database::lookupStatement(const QString &table, const QString &field, co
         const QString key = table + QChar(0) + field + QChar(0) + taken.templateText;
         auto it = m_cache->lookups.constFind(key);
         if (it == m_cache->lookups.constEnd()) {
-            SqlText sql = translated(lookupSql(table, field, taken.templateText), static_cast<int>(params.size()));
+            Cache::Lookup made{translated(lookupSql(table, field, taken.templateText), static_cast<int>(params.size())), nullptr};
+            // One that does not prepare is prepared each time from the shared statements, which report why.
+            if (!made.sql.text.isNull())
+                prepareFirst(m_db, made.sql.utf8, &made.stmt, made.sql.text);
             if (m_cache->lookups.size() >= 4 * kStatementCacheLimit)
-                m_cache->lookups.clear();
-            it = m_cache->lookups.insert(key, sql);
+                m_cache->clearLookups();
+            it = m_cache->lookups.insert(key, made);
         }
         last.table = table;
         last.field = field;
         last.criteria = QString(taken.templateText.constData(), taken.templateText.size());   // the template is a reused buffer
-        last.sql = it.value();
+        last.lookup = it.value();
     }
-    if (last.sql.text.isNull()) {   // the numbers could not be taken out: the statement with its numbers
+    if (last.lookup.sql.text.isNull()) {   // the numbers could not be taken out: the statement with its numbers
         params.clear();
-        return translated(lookupSql(table, field, criteria), 0);
+        sql = translated(lookupSql(table, field, criteria), 0);
+        return nullptr;
     }
-    return last.sql;
+    sql = last.lookup.sql;
+    return last.lookup.stmt;
 }
 
 SqlText Database::translated(const QString &jetSql, int parameters)

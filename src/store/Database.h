@@ -122,8 +122,10 @@ private:
     SqlText translated(const QString &jetSql, int parameters);
     //! A Jet SELECT in SQLite's dialect, with the numbers it compares taken out into params.
     SqlText translatedSelect(const QString &jetSql, SqlValues &params);
-    //! The statement of a lookup, with the numbers of its criteria taken out into params.
-    SqlText lookupStatement(const QString &table, const QString &field, const QString &criteria, SqlValues &params);
+    //! The statement of a lookup, with the numbers of its criteria taken out into params: the lookup's
+    //! own prepared statement, or null when the statement sql is to be prepared from the shared ones.
+    sqlite3_stmt *lookupStatement(const QString &table, const QString &field, const QString &criteria, SqlValues &params,
+                                  SqlText &sql);
     static QString lookupSql(const QString &table, const QString &field, const QString &criteria);
     //! Before a statement that writes: open statements are read to the end (and before one that may
     //! change the schema, the result shapes are forgotten too).

@@ -6,6 +6,7 @@
 #include "VbError.h"
 
 #include <QDateTime>
+#include <QScopeGuard>
 #include <charconv>
 #include <cmath>
 #include <cstdlib>
@@ -399,19 +400,27 @@ QVariant Database::lookupValue(const QString &table, const QString &field, const
 {
     // The statement is read and handed back at once, so it never joins the reads still going on.
     SqlValues params;
-    const SqlText sql = lookupStatement(table, field, criteria, params);
-    Statement st;
-    if (st.prepare(this, sql.utf8) != SQLITE_OK)
-        raiseLastError(lookupSql(table, field, criteria));
+    SqlText sql;
+    sqlite3_stmt *stmt = lookupStatement(table, field, criteria, params, sql);
+    Statement shared;
+    const auto handBack = qScopeGuard([own = stmt] {
+        if (own)
+            sqlite3_reset(own);
+    });
+    if (!stmt) {
+        if (shared.prepare(this, sql.utf8) != SQLITE_OK)
+            raiseLastError(lookupSql(table, field, criteria));
+        stmt = shared.stmt;
+    }
     for (int i = 0; i < params.size(); ++i)
-        bindValue(st.stmt, i + 1, params[i]);
-    const int rc = sqlite3_step(st.stmt);
+        bindValue(stmt, i + 1, params[i]);
+    const int rc = sqlite3_step(stmt);
     if (rc != SQLITE_ROW && rc != SQLITE_DONE)
         raiseLastError(lookupSql(table, field, criteria));
     *found = rc == SQLITE_ROW;
     if (!*found)
         return {};
-    return readValue(st.stmt, 0, readKindOf(sqlite3_column_decltype(st.stmt, 0)));
+    return readValue(stmt, 0, readKindOf(sqlite3_column_decltype(stmt, 0)));
 }
 
 bool Recordset::readRow()

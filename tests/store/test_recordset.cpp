@@ -183,6 +183,12 @@ TEST_F(RecordsetTest, StatementsThatDifferOnlyInTheirNumbersShareOneButKeepTheir
     }
     bool found = true;
     EXPECT_THROW(db->lookupValue(QStringLiteral("tblNothing"), QStringLiteral("Name"), QString(), &found), VbError);
+    EXPECT_THROW(db->lookupValue(QStringLiteral("tblNothing"), QStringLiteral("Name"), QString(), &found), VbError);
+    // A lookup hands its statement back after each use: the table can be written and even dropped.
+    db->Execute(QStringLiteral("Update tblThing Set Name = 'Aspen' Where ThingID = 1"));
+    EXPECT_EQ(value(QStringLiteral("Name"), QStringLiteral("ThingID = 1")).toString(), QStringLiteral("Aspen"));
+    db->executeNative(QStringLiteral("DROP TABLE tblThing"));
+    EXPECT_THROW(value(QStringLiteral("Name"), QStringLiteral("ThingID = 1")), VbError);
 }
 
 TEST_F(RecordsetTest, FindUsesJetCriteriaWithoutRegardToCase)
