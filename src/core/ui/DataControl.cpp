@@ -311,6 +311,16 @@ void DataControl::bind(QWidget *control, const QString &field)
 }
 
 namespace {
+//! Whether a combo item's bound value (or its text) is the value looked for: whole numbers as numbers,
+//! anything else as text without regard to case.
+bool sameItemValue(const QVariant &have, const QVariant &value, const QString &wanted)
+{
+    const auto isWhole = [](const QVariant &v) { return v.typeId() == QMetaType::Int || v.typeId() == QMetaType::LongLong; };
+    if (isWhole(have) && isWhole(value))
+        return have.toLongLong() == value.toLongLong();
+    return have.toString().compare(wanted, Qt::CaseInsensitive) == 0;
+}
+
 //! The items of a combo filled from a statement, read from its recordset a batch at a time as the
 //! list is scrolled (or a value is looked for), so that a list of thousands opens at the cost of one
 //! batch. Items added by hand after the fill come after the rows read so far, before later batches.
@@ -331,33 +341,17 @@ public:
             readRows([](const QVariant &) { return false; }, 256);
     }
 
-    //! The row of the first item whose bound value (or text, for an item without one) is value, the
-    //! rows read as far as it takes; -1 when there is none. A value looked for far down the list is
-    //! found in the recordset's own values and the rows up to it become items at once.
-    int rowOf(const QVariant &value)
+    //! Reads the rows not read yet as far as the first whose bound value is value: its row, -1 when
+    //! none is. A value far down the list is found in the recordset's own values and the rows up to
+    //! it become items at once.
+    int readTo(const QVariant &value, const QString &wanted)
     {
-        const QString wanted = value.toString();
-        for (int row = 0; row < rowCount(); ++row) {
-            const QStandardItem *it = item(row);
-            const QVariant data = it->data(Qt::UserRole);
-            if (sameValue(data.isValid() ? data : QVariant(it->text()), value, wanted))
-                return row;
-        }
         const int before = rowCount();
-        const int read = readRows([&](const QVariant &bound) { return sameValue(bound, value, wanted); }, -1);
-        return read > 0 && sameValue(item(before + read - 1)->data(Qt::UserRole), value, wanted) ? before + read - 1 : -1;
+        const int read = readRows([&](const QVariant &bound) { return sameItemValue(bound, value, wanted); }, -1);
+        return read > 0 && sameItemValue(item(before + read - 1)->data(Qt::UserRole), value, wanted) ? before + read - 1 : -1;
     }
 
 private:
-    static bool sameValue(const QVariant &have, const QVariant &value, const QString &wanted)
-    {
-        const auto isWhole = [](const QVariant &v) {
-            return v.typeId() == QMetaType::Int || v.typeId() == QMetaType::LongLong;
-        };
-        if (isWhole(have) && isWhole(value))
-            return have.toLongLong() == value.toLongLong();
-        return have.toString().compare(wanted, Qt::CaseInsensitive) == 0;
-    }
 
     //! Makes items of the next rows, up to limit rows (no limit when negative) or through the first
     //! row whose bound value stop accepts; the number of items made.
@@ -413,20 +407,16 @@ void fillCombo(QComboBox *combo, Database &db, const QString &jetSql, const QStr
 void selectComboValue(QComboBox *combo, const QVariant &value)
 {
     int found = -1;
-    if (auto *rows = dynamic_cast<RecordsetComboModel *>(combo->model()); rows && !value.isNull()) {
-        found = rows->rowOf(value);
-    } else if (!value.isNull()) {
+    if (!value.isNull()) {
         const QString wanted = value.toString();
-        QAbstractItemModel *model = combo->model();
-        for (int i = 0; found < 0; ++i) {
-            // Items not read yet are read until the value turns up.
-            if (i >= combo->count() && !(model->canFetchMore({}) && (model->fetchMore({}), i < combo->count())))
-                break;
+        for (int i = 0; i < combo->count() && found < 0; ++i) {
             const QVariant data = combo->itemData(i);
-            const QString have = data.isValid() ? data.toString() : combo->itemText(i);
-            if (have.compare(wanted, Qt::CaseInsensitive) == 0)
+            if (sameItemValue(data.isValid() ? data : QVariant(combo->itemText(i)), value, wanted))
                 found = i;
         }
+        // Rows of a statement not read yet are read until the value turns up.
+        if (auto *rows = dynamic_cast<RecordsetComboModel *>(combo->model()); rows && found < 0)
+            found = rows->readTo(value, wanted);
     }
     combo->setCurrentIndex(found);
     if (found < 0 && combo->isEditable())
