@@ -14,27 +14,39 @@
 
 #include <sqlite3.h>
 
+//! A program folder holding a private copy of a database.
+class CopiedHome {
+public:
+    explicit CopiedHome(const QString &database)
+    {
+        const QString copy = m_dir.filePath(QStringLiteral("ZOB.sqlite"));
+        m_ok = QFile::copy(database, copy) && QFile::setPermissions(copy, QFile::ReadOwner | QFile::WriteOwner);
+    }
+    bool ok() const { return m_ok; }
+    QString path() const { return m_dir.path(); }
+
+private:
+    QTemporaryDir m_dir;
+    bool m_ok = false;
+};
+
 //! A session on a private copy of the seeded database, as every benchmark starts from.
 class BenchSession {
 public:
     BenchSession()
     {
-        const QString db = m_dir.filePath(QStringLiteral("ZOB.sqlite"));
-        m_ok = QFile::copy(QStringLiteral(ZOB_SEED_DB), db);
-        if (!m_ok) {
+        if (!m_home.ok()) {
             std::fprintf(stderr, "cannot copy %s\n", ZOB_SEED_DB);
             return;
         }
-        QFile::setPermissions(db, QFile::ReadOwner | QFile::WriteOwner);
-        session.home = m_dir.path();
+        session.home = m_home.path();
         session.openDatabase();
     }
-    bool ok() const { return m_ok; }
+    bool ok() const { return m_home.ok(); }
     Session session;
 
 private:
-    QTemporaryDir m_dir;
-    bool m_ok = false;
+    CopiedHome m_home{QStringLiteral(ZOB_SEED_DB)};
 };
 
 //! Runs f(i) for i in [0, n) and gives the mean time of one call in microseconds.

@@ -149,22 +149,6 @@ private:
     bool m_passed = false;
 };
 
-//! A program folder holding a private copy of a database.
-class CopiedHome {
-public:
-    explicit CopiedHome(const QString &database)
-    {
-        const QString copy = m_dir.filePath(QStringLiteral("ZOB.sqlite"));
-        m_ok = QFile::copy(database, copy) && QFile::setPermissions(copy, QFile::ReadOwner | QFile::WriteOwner);
-    }
-    bool ok() const { return m_ok; }
-    QString path() const { return m_dir.path(); }
-
-private:
-    QTemporaryDir m_dir;
-    bool m_ok = false;
-};
-
 //! The program on the database of a program folder, started as main() starts it, for "user001".
 class Program {
 public:

@@ -27,24 +27,28 @@ const Entry kEntries[] = {
     {"frmDE_DietItem", "tblDietItem", "DietItemID"},
     {"frmDE_IntakeModel", "tblIntakeModel", "IntakeModelID"},
 };
+
+//! The first record of a table, to read, as a picker's double click asks for it.
+RecordRequest firstRecord(WindowBench &b, const QString &table, const QString &key)
+{
+    RecordRequest r = recordOf(table, key, b.firstId(table, key), QStringLiteral("Read"));
+    r.isSelection = false;
+    return r;
+}
 }  // namespace
 
 void benchEntryWindows(WindowBench &b)
 {
     Program &p = b.p;
     for (const Entry &e : kEntries) {
-        const QString table = QString::fromLatin1(e.table), key = QString::fromLatin1(e.key);
-        RecordRequest r = recordOf(table, key, b.firstId(table, key), QStringLiteral("Read"));
-        r.isSelection = false;
+        const RecordRequest r = firstRecord(b, QString::fromLatin1(e.table), QString::fromLatin1(e.key));
         const QString window = QString::fromLatin1(e.window);
         b.open(window, &r);
         b.close(window);
     }
 
     // The measurements of the first gross energy record, from its entry window's wet weight button.
-    const QString table = QStringLiteral("tblGrossEnergy"), key = QStringLiteral("GrossEnergyID");
-    RecordRequest ge = recordOf(table, key, b.firstId(table, key), QStringLiteral("Read"));
-    ge.isSelection = false;
+    const RecordRequest ge = firstRecord(b, QStringLiteral("tblGrossEnergy"), QStringLiteral("GrossEnergyID"));
     b.show(QStringLiteral("frmDE_GE"), &ge);
     const QString measurement = QStringLiteral("frmDE_Measurement");
     b.action(QStringLiteral("frmDE_Measurement open"), [&] { b.close(measurement); },
